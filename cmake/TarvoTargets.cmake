@@ -1,0 +1,74 @@
+# One function per kind of target, so that every folder lists files and nothing else.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+# Programs and DLLs side by side: Windows looks for DLLs beside the program.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+
+find_program(TARVO_CCACHE ccache)
+if(TARVO_CCACHE)
+  set(CMAKE_C_COMPILER_LAUNCHER ${TARVO_CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${TARVO_CCACHE})
+endif()
+
+# tarvo_options(TARGET): warnings, sanitizers and definitions common to all of our targets.
+function(tarvo_options target)
+  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Werror -Wshadow=local)
+  if(WIN32)
+    # DWARF 4: Wine's debugger prints names and lines from it, not from the compiler's default.
+    target_compile_options(${target} PRIVATE -gdwarf-4)
+    target_compile_definitions(${target} PUBLIC UNICODE _UNICODE WINVER=0x0A00 _WIN32_WINNT=0x0A00 NOMINMAX)
+    # One self-contained file each: no compiler runtime DLL beside the programs.
+    target_link_options(${target} PRIVATE -static)
+  endif()
+  if(TARVO_SANITIZE)
+    target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(${target} PUBLIC -fsanitize=address,undefined)
+    target_compile_definitions(${target} PUBLIC _GLIBCXX_ASSERTIONS)
+  endif()
+endfunction()
+
+# tarvo_sources(TARGET [PORTABLE file...] [WINDOWS file...] [POSIX file...])
+function(tarvo_sources target)
+  cmake_parse_arguments(arg "" "" "PORTABLE;WINDOWS;POSIX" ${ARGN})
+  target_sources(${target} PRIVATE ${arg_PORTABLE})
+  if(WIN32)
+    target_sources(${target} PRIVATE ${arg_WINDOWS})
+  else()
+    target_sources(${target} PRIVATE ${arg_POSIX})
+  endif()
+endfunction()
+
+# tarvo_test(NAME [LIBS target...] [PORTABLE file...] [WINDOWS file...] [POSIX file...]
+#            [LOCALE ll_CC] [TIMEOUT seconds])
+# One test program per folder; every TEST in it is one ctest test named NAME:Suite.Case. LOCALE runs
+# the program under that user and system locale (Wine; natively the variable is only set).
+function(tarvo_test name)
+  cmake_parse_arguments(arg "" "LOCALE;TIMEOUT" "LIBS;PORTABLE;WINDOWS;POSIX" ${ARGN})
+  set(sources ${arg_PORTABLE})
+  if(WIN32)
+    list(APPEND sources ${arg_WINDOWS})
+  else()
+    list(APPEND sources ${arg_POSIX})
+  endif()
+  if(NOT sources)
+    return()
+  endif()
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 120)
+  endif()
+  add_executable(${name} ${sources})
+  tarvo_options(${name})
+  target_link_libraries(${name} PRIVATE ${arg_LIBS} tarvo_test_support GTest::gmock GTest::gtest)
+  set(environment "TARVO_TEST_SOURCE_DIR=${PROJECT_SOURCE_DIR}")
+  if(arg_LOCALE)
+    list(APPEND environment "WINE_TEST_LANG=${arg_LOCALE}.UTF-8")
+  endif()
+  gtest_discover_tests(${name}
+    TEST_PREFIX ${name}:
+    DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
+    PROPERTIES TIMEOUT ${arg_TIMEOUT} ENVIRONMENT "${environment}")
+endfunction()

@@ -1,0 +1,1 @@
+#include "qlx/qlx_lib.h"
