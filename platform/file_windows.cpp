@@ -1,1 +1,158 @@
 #include "platform/file.h"
+
+#include <algorithm>
+#include <windows.h>
+
+namespace platform::file
+{
+const wchar_t separator = L'\\';
+
+namespace
+{
+struct handle_closer
+{
+    using pointer = HANDLE;
+    void operator()(HANDLE h) const { ::CloseHandle(h); }
+};
+using handle = std::unique_ptr<HANDLE, handle_closer>;
+
+constexpr DWORD share_all = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+handle open_handle(const std::wstring& path, DWORD access, DWORD disposition, DWORD flags = 0)
+{
+    const HANDLE h = ::CreateFileW(path.c_str(), access, share_all, nullptr, disposition,
+                                   FILE_ATTRIBUTE_NORMAL | flags, nullptr);
+    return handle(h == INVALID_HANDLE_VALUE ? nullptr : h);
+}
+
+/// The path as the system takes it at any length: beyond the classic limit it must be a full path
+/// behind the prefix that turns the limit off. Short paths stay as they are, device names too.
+std::wstring long_path(const wchar_t* path)
+{
+    constexpr std::size_t classic_limit = 240; // room for a temporary name beside the file
+    std::wstring text(path ? path : L"");
+    if (text.size() < classic_limit || text.starts_with(LR"(\\?\)") || text.starts_with(LR"(\\.\)"))
+        return text;
+    const DWORD size = ::GetFullPathNameW(text.c_str(), 0, nullptr, nullptr);
+    std::wstring full(size, L'\0');
+    const DWORD length = size ? ::GetFullPathNameW(text.c_str(), size, full.data(), nullptr) : 0;
+    if (length == 0 || length >= size)
+        return text;
+    full.resize(length);
+    if (full.starts_with(LR"(\\)"))
+        return LR"(\\?\UNC)" + full.substr(1);
+    return LR"(\\?\)" + full;
+}
+
+bool write_all(HANDLE file, std::string_view bytes)
+{
+    constexpr std::size_t piece = 1u << 30;
+    while (!bytes.empty())
+    {
+        DWORD n = 0;
+        const DWORD wanted = static_cast<DWORD>(std::min(bytes.size(), piece));
+        if (!::WriteFile(file, bytes.data(), wanted, &n, nullptr) || n == 0)
+            return false;
+        bytes.remove_prefix(n);
+    }
+    return true;
+}
+
+bool read_all(HANDLE file, std::string& bytes)
+{
+    constexpr std::size_t piece = 1u << 30;
+    std::size_t done = 0;
+    while (done < bytes.size())
+    {
+        DWORD n = 0;
+        const DWORD wanted = static_cast<DWORD>(std::min(bytes.size() - done, piece));
+        if (!::ReadFile(file, bytes.data() + done, wanted, &n, nullptr) || n == 0)
+            return false;
+        done += n;
+    }
+    return true;
+}
+
+bool is_folder(const std::wstring& path)
+{
+    const DWORD attributes = ::GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+Written write_and_close(handle file, std::string_view bytes, bool flushed)
+{
+    if (!file)
+        return Written::not_opened;
+    const bool written = write_all(file.get(), bytes) && (!flushed || ::FlushFileBuffers(file.get()));
+    return written ? Written::ok : Written::not_written;
+}
+
+/// A new file in the folder of \p path, empty and open for writing; \p name receives its path.
+handle create_beside(const std::wstring& path, std::wstring& name)
+{
+    const std::wstring folder = path.substr(0, path.find_last_of(L"\\/:") + 1); // npos + 1 is 0
+    DWORD number = ::GetTickCount() ^ (::GetCurrentProcessId() << 16);
+    for (int attempt = 0; attempt < 100; ++attempt, number = number * 1664525u + 1013904223u)
+    {
+        name = folder + L".tarvo-" + std::to_wstring(number);
+        handle file = open_handle(name, GENERIC_WRITE, CREATE_NEW);
+        if (file || ::GetLastError() != ERROR_FILE_EXISTS)
+            return file;
+    }
+    return nullptr;
+}
+} // namespace
+
+std::optional<std::string> read_whole(const wchar_t* path, std::uint64_t most)
+{
+    const handle file = open_handle(long_path(path), GENERIC_READ, OPEN_EXISTING);
+    LARGE_INTEGER size;
+    if (!file || ::GetFileType(file.get()) != FILE_TYPE_DISK || !::GetFileSizeEx(file.get(), &size) ||
+        static_cast<std::uint64_t>(size.QuadPart) > most)
+        return std::nullopt;
+    std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
+    if (!read_all(file.get(), bytes))
+        return std::nullopt;
+    return bytes;
+}
+
+Written write_whole(const wchar_t* path, std::string_view bytes)
+{
+    return write_and_close(open_handle(long_path(path), GENERIC_WRITE, CREATE_ALWAYS), bytes, false);
+}
+
+Written replace_whole(const wchar_t* path, std::string_view bytes)
+{
+    const std::wstring target = long_path(path);
+    handle old = open_handle(target, GENERIC_WRITE, OPEN_EXISTING);
+    if (old && ::GetFileType(old.get()) != FILE_TYPE_DISK)
+        return write_and_close(std::move(old), bytes, false);
+    if (!old && (target.empty() || ::GetFileAttributesW(target.c_str()) != INVALID_FILE_ATTRIBUTES))
+        return Written::not_opened;
+    old.reset();
+    std::wstring temporary;
+    const Written result = write_and_close(create_beside(target, temporary), bytes, true);
+    if (result == Written::ok &&
+        ::MoveFileExW(temporary.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+        return Written::ok;
+    if (result != Written::not_opened)
+        ::DeleteFileW(temporary.c_str());
+    return result == Written::not_opened ? result : Written::not_written;
+}
+
+bool exists(const wchar_t* path)
+{
+    return ::GetFileAttributesW(long_path(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+bool remove(const wchar_t* path) { return ::DeleteFileW(long_path(path).c_str()) != FALSE; }
+
+stream open(const wchar_t* path, const char* mode)
+{
+    const std::wstring target = long_path(path);
+    if (target.empty() || is_folder(target))
+        return nullptr;
+    const std::wstring letters(mode, mode + std::char_traits<char>::length(mode));
+    return stream(::_wfopen(target.c_str(), letters.c_str()));
+}
+} // namespace platform::file
