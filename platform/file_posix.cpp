@@ -110,15 +110,17 @@ Written replace_regular(const std::string& path, const struct stat* old, std::st
     Descriptor fd = create_in(folder, old ? 0600 : 0666, temporary);
     if (!fd)
         return Written::not_opened;
-    const bool complete = (!old || take_over(fd.get(), *old)) && write_all(fd.get(), bytes) &&
-                          ::fsync(fd.get()) == 0 && fd.close();
-    if (!complete || ::rename(temporary.c_str(), path.c_str()) != 0)
-    {
+    Written result = Written::ok;
+    if ((old && !take_over(fd.get(), *old)) || !write_all(fd.get(), bytes) || ::fsync(fd.get()) != 0 ||
+        !fd.close())
+        result = Written::not_written;
+    else if (::rename(temporary.c_str(), path.c_str()) != 0)
+        result = Written::not_opened;
+    if (result != Written::ok)
         ::unlink(temporary.c_str());
-        return Written::not_written;
-    }
-    flush_folder(folder);
-    return Written::ok;
+    else
+        flush_folder(folder);
+    return result;
 }
 } // namespace
 

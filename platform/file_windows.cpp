@@ -79,6 +79,13 @@ bool is_folder(const std::wstring& path)
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
+/// Marked read-only. The system refuses such a file by itself, but not where the user may do anything.
+bool is_protected(const std::wstring& path)
+{
+    const DWORD attributes = ::GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
+}
+
 Written write_and_close(handle file, std::string_view bytes, bool flushed)
 {
     if (!file)
@@ -118,7 +125,10 @@ std::optional<std::string> read_whole(const wchar_t* path, std::uint64_t most)
 
 Written write_whole(const wchar_t* path, std::string_view bytes)
 {
-    return write_and_close(open_handle(long_path(path), GENERIC_WRITE, CREATE_ALWAYS), bytes, false);
+    const std::wstring target = long_path(path);
+    if (is_protected(target))
+        return Written::not_opened;
+    return write_and_close(open_handle(target, GENERIC_WRITE, CREATE_ALWAYS), bytes, false);
 }
 
 Written replace_whole(const wchar_t* path, std::string_view bytes)
@@ -127,17 +137,20 @@ Written replace_whole(const wchar_t* path, std::string_view bytes)
     handle old = open_handle(target, GENERIC_WRITE, OPEN_EXISTING);
     if (old && ::GetFileType(old.get()) != FILE_TYPE_DISK)
         return write_and_close(std::move(old), bytes, false);
-    if (!old && (target.empty() || ::GetFileAttributesW(target.c_str()) != INVALID_FILE_ATTRIBUTES))
+    const bool there = ::GetFileAttributesW(target.c_str()) != INVALID_FILE_ATTRIBUTES;
+    if (target.empty() || (there && !old) || is_protected(target))
         return Written::not_opened;
-    old.reset();
+    old.reset(); // an open file cannot be renamed over
     std::wstring temporary;
-    const Written result = write_and_close(create_beside(target, temporary), bytes, true);
-    if (result == Written::ok &&
-        ::MoveFileExW(temporary.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-        return Written::ok;
-    if (result != Written::not_opened)
+    Written result = write_and_close(create_beside(target, temporary), bytes, true);
+    if (result == Written::not_opened)
+        return result;
+    constexpr DWORD flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    if (result == Written::ok && !::MoveFileExW(temporary.c_str(), target.c_str(), flags))
+        result = Written::not_opened;
+    if (result != Written::ok)
         ::DeleteFileW(temporary.c_str());
-    return result == Written::not_opened ? result : Written::not_written;
+    return result;
 }
 
 bool exists(const wchar_t* path)
