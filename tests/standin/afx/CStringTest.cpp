@@ -1,0 +1,22 @@
+#include <afxstr.h>
+
+#include <gtest/gtest.h>
+
+TEST(CString, CopySharesTheTextUntilOneIsChanged)
+{
+    const CString a(L"one text");
+    CString b = a;
+    EXPECT_EQ(a.GetString(), b.GetString());
+    b.SetAt(0, L'O');
+    EXPECT_NE(a.GetString(), b.GetString());
+    EXPECT_EQ(a, L"one text");
+    EXPECT_EQ(b, L"One text");
+}
+
+TEST(CString, AppendingItselfDoublesTheText)
+{
+    CString s(L"ab");
+    s += s;
+    s += s.GetString() + 1;
+    EXPECT_EQ(s, L"ababbab");
+}
