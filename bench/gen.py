@@ -1,0 +1,156 @@
+#!/usr/bin/env python3
+"""gen.py FOLDER: writes the inputs of the benchmarks, the same bytes on every machine.
+
+lang.utf16.ini lang.utf8.ini lang.cp949.ini   one language file: 60,000 keys in 1,500 sections
+wide.utf16.ini                                60,000 keys in 15,000 sections, for the growth of look-ups
+lang.keys.tsv wide.keys.tsv                   their section and key names, shuffled, for random look-ups
+resource.h                                    66,000 defines, as one module's resource header
+text.cpN, text.cpN.utf16                      5 MiB of text for each of the code pages 949 932 936 1251
+
+A folder that is already complete is left alone; --force writes it again.
+"""
+import codecs
+import os
+import random
+import sys
+
+SEED = 42
+TEXT_BYTES = 5 * 1024 * 1024
+STAMP = "complete-1"  # change it with the contents
+
+WORDS = ("file open save close window view edit insert format tools help print page row column table cell "
+         "text font size color style border chart image link name path folder value list item select delete "
+         "copy paste undo redo node element load beam plate section material").split()
+
+
+def double_byte(codec, leads, trails):
+    """The characters of a code page whose two bytes lie in the given ranges."""
+    found = []
+    for lead in leads:
+        for trail in trails:
+            try:
+                found.append(bytes((lead, trail)).decode(codec))
+            except UnicodeDecodeError:
+                pass
+    return found
+
+
+def korean_character(rng, common, extended):
+    return rng.choice(common) if rng.random() < 0.98 else rng.choice(extended)
+
+
+def phrase(rng, words, length):
+    """Korean words with now and then a term, a placeholder or an access key, as language files have them."""
+    text = rng.choice(words)
+    while len(text) < length:
+        kind = rng.random()
+        if kind < 0.12:
+            text += " " + rng.choice(WORDS).capitalize()
+        elif kind < 0.20:
+            text += " " + rng.choice(("%s", "%d", "(&F)", "..."))
+        else:
+            text += " " + rng.choice(words)
+    return text[:length].rstrip(" \\") or "x"
+
+
+def language_file(rng, words, sections, keys_per_section, mean_length):
+    """The lines of a language file, and its (section, key) pairs."""
+    lines = ["# language file", ""]
+    names = []
+    for number in range(sections):
+        section = f"IDD_DLG_{number:05d}"
+        lines.append(f"[{section}]")
+        for key_number in range(keys_per_section):
+            key = f"IDC_{rng.choice(('STATIC', 'EDIT', 'BTN', 'CHECK', 'COMBO'))}_{1000 + key_number}"
+            names.append((section, key))
+            lines.append(f"{key}={phrase(rng, words, max(2, int(rng.gauss(mean_length, 9))))}")
+        lines.append("")
+    return "\r\n".join(lines) + "\r\n", names
+
+
+def resource_header(rng):
+    """66,000 lines: dialogs, controls, commands and strings, a comment and a blank line here and there."""
+    lines = ["//{{NO_DEPENDENCIES}}", "// Generated resource header, used by the module.", "#pragma once", ""]
+    number = 100
+    while len(lines) < 66000:
+        if len(lines) % 400 == 0:
+            lines += ["", f"// {rng.choice(WORDS)}"]
+            continue
+        kind = rng.choice(("IDD_", "IDC_", "IDC_", "IDS_", "IDS_", "ID_", "IDR_"))
+        name = f"{kind}{rng.choice(WORDS).upper()}_{rng.choice(WORDS).upper()}_{number}"
+        lines.append(f"#define {name:<39} {number}")
+        number += 1
+    return "\r\n".join(lines[:66000]) + "\r\n"
+
+
+def plain_text(rng, character, codec):
+    """At least TEXT_BYTES bytes of key=value lines in one code page."""
+    words = ["".join(character() for _ in range(rng.randint(1, 5))) for _ in range(4000)]
+    lines, size = [], 0
+    while size < TEXT_BYTES:
+        parts = (rng.choice(WORDS) if rng.random() < 0.15 else rng.choice(words) for _ in range(rng.randint(2, 8)))
+        line = f"IDC_{rng.randint(0, 9999)}=" + " ".join(parts) + "\r\n"
+        lines.append(line)
+        size += len(line.encode(codec))
+    return "".join(lines)
+
+
+def generate(folder):
+    rng = random.Random(SEED)
+
+    def write(name, data):
+        with open(os.path.join(folder, name), "wb") as file:
+            file.write(data)
+
+    def utf16(text):
+        return codecs.BOM_UTF16_LE + text.encode("utf-16-le")
+
+    common = double_byte("cp949", range(0xB0, 0xC9), range(0xA1, 0xFF))
+    trails = [*range(0x41, 0x5B), *range(0x61, 0x7B), *range(0x81, 0xFF)]
+    extended = double_byte("cp949", range(0x81, 0xA1), trails)
+    words = ["".join(korean_character(rng, common, extended) for _ in range(rng.randint(1, 4))) for _ in range(3000)]
+
+    text, names = language_file(rng, words, 1500, 40, 26.9)
+    assert len(utf16(text)) <= 5 * 1024 * 1024, "larger than the library reads"
+    write("lang.utf16.ini", utf16(text))
+    write("lang.utf8.ini", text.encode("utf-8"))
+    write("lang.cp949.ini", text.encode("cp949"))
+    rng.shuffle(names)
+    write("lang.keys.tsv", "".join(f"{section}\t{key}\n" for section, key in names).encode())
+    wide, names = language_file(rng, words, 15000, 4, 16)
+    assert len(utf16(wide)) <= 5 * 1024 * 1024, "larger than the library reads"
+    write("wide.utf16.ini", utf16(wide))
+    rng.shuffle(names)
+    write("wide.keys.tsv", "".join(f"{section}\t{key}\n" for section, key in names).encode())
+
+    write("resource.h", resource_header(rng).encode())
+
+    kana = [chr(code) for code in (*range(0x3041, 0x3094), *range(0x30A1, 0x30F5))]
+    kanji = double_byte("cp932", range(0x88, 0xA0), [*range(0x40, 0x7F), *range(0x80, 0xFD)])
+    hanzi = double_byte("gbk", range(0xB0, 0xD7), range(0xA1, 0xFA))
+    cyrillic = [chr(code) for code in range(0x430, 0x450)]
+    pages = {
+        "cp949": lambda: korean_character(rng, common, extended),
+        "cp932": lambda: rng.choice(kana) if rng.random() < 0.6 else rng.choice(kanji),
+        "cp936": lambda: rng.choice(hanzi),
+        "cp1251": lambda: rng.choice(cyrillic),
+    }
+    for page, character in pages.items():
+        codec = "gbk" if page == "cp936" else page
+        text = plain_text(rng, character, codec)
+        write(f"text.{page}", text.encode(codec))
+        write(f"text.{page}.utf16", text.encode("utf-16-le"))
+    write(STAMP, b"")
+
+
+def main():
+    arguments = [a for a in sys.argv[1:] if a != "--force"]
+    if len(arguments) != 1:
+        sys.exit(__doc__)
+    folder = arguments[0]
+    os.makedirs(folder, exist_ok=True)
+    if "--force" in sys.argv or not os.path.exists(os.path.join(folder, STAMP)):
+        generate(folder)
+
+
+main()
