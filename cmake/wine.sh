@@ -1,61 +1,164 @@
 #!/bin/bash
-# wine.sh PROG.exe ARGS | wine.sh --template | wine.sh --down.  Exit code = program's mod 256; 124 timeout; 98 heap check
-# env: WINE_TEST_LANG=ko_KR.UTF-8  WINE_TEST_GFX=x11 (needs DISPLAY)  WINE_HEAPCHECK=1  WINE_TEST_TIMEOUT=60  WINE_SLOTS  WINE_TEST_DIR
-here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-WT=${WINE_TEST_DIR:-$here/../build/wine}; mkdir -p "$WT"; WT=$(cd "$WT" && pwd)
-WINE=/usr/lib/wine/wine64; WINESERVER=/usr/lib/wine/wineserver64; BI=/usr/lib/x86_64-linux-gnu/wine/x86_64-windows
-export WINELOADER=$WINE WINESERVER WINEARCH=win64 WINEDLLOVERRIDES='mscoree,mshtml=' FONTCONFIG_FILE=$WT/fonts.conf
-export WINEDEBUG=${WINEDEBUG-fixme-all,err-winediag,err-systray}      # keep err: on; -all also hides "library X.dll not found"
-LOC="env LOCPATH=$WT/locale LC_ALL=${WINE_TEST_LANG:-C.UTF-8}"
-gfx=${WINE_TEST_GFX:-null}; hc=${WINE_HEAPCHECK:-0}; [ "$gfx" = null ] && unset DISPLAY
-srv_k() { WINEPREFIX=$1 timeout 15 $WINESERVER -k; WINEPREFIX=$1 timeout 15 $WINESERVER -w; } >/dev/null 2>&1
-names() { local to=$1 f; shift; for f; do printf '"%s"="%s"\n' "$f" "$to"; done; }
-links() { local f; for f; do printf '"%s"=hex(7):%s\n' "$f" "$(printf 'wqy-microhei.ttc,WenQuanYi Micro Hei\0\0' | iconv -t UTF-16LE | od -An -v -tx1 | tr -d '\n' | sed 's/^ //;s/ /,/g')"; done; }
-T=(System "MS Sans Serif" "Microsoft Sans Serif" "MS Serif" "Small Fonts" "Segoe UI" Arial Verdana "Times New Roman")
-M=("Lucida Console" Consolas "Courier New" Courier Fixedsys Terminal)
-reg() { cat <<'E'
-Windows Registry Editor Version 5.00
+# wine.sh PROGRAM.exe [ARGUMENT...]   runs a Windows program; CMake's emulator for the cross build
+# wine.sh --prepare                   makes the Wine prefix now rather than with the first program
+# wine.sh --down                      ends the Wine servers of this build folder, and of no other
+#
+# The exit status is the program's (modulo 256), 124 after a timeout, 98 when the heap check found damage,
+# 99 when there is no Wine to run it. The program's output appears when it has ended.
+#
+#   WINE_TEST_LANG=ko_KR    user and system locale of the program; default: English with code page 1252
+#   WINE_TEST_TIMEOUT=60    seconds after which the program is ended
+#   WINE_TEST_GFX=null|x11  null (default): real windows on an invisible screen; x11: windows on $DISPLAY
+#   WINE_HEAPCHECK=1        guards every heap block (slow)
+#   WINE_SLOTS=N            programs at a time; default: one for each processor
+#   WINE_TEST_DIR=FOLDER    where prefix and slots live; default: build/wine, shared by all presets
+#
+# Two programs in one prefix would steal each other's keyboard focus and locale, so each running program
+# has a slot to itself: a copy of the prefix with a server of its own. Program and server share one
+# processor, which makes each call to the server several times faster than across two.
+set -u
 
-[HKEY_CURRENT_USER\Software\Wine]
-"Version"="win10"
-[HKEY_CURRENT_USER\Software\Wine\Drivers]
-"Graphics"="null"
-[HKEY_CURRENT_USER\Software\Wine\X11 Driver]
-"Managed"="N"
-[HKEY_CURRENT_USER\Software\Wine\WineDbg]
-"ShowCrashDialog"=dword:00000000
-[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\RunServices]
-"winemenubuilder"=-
-[HKEY_CURRENT_USER\Software\Wine\Fonts\Replacements]
-E
-  names "WenQuanYi Micro Hei" Gulim 굴림 Dotum 돋움 Batang 바탕 "Malgun Gothic" "맑은 고딕" "MS UI Gothic" "MS PGothic" "ＭＳ Ｐゴシック" Meiryo "Meiryo UI" "Yu Gothic UI" SimSun 宋体 "Microsoft YaHei" "Microsoft YaHei UI" PMingLiU 新細明體 "Microsoft JhengHei" "Microsoft JhengHei UI"
-  names "WenQuanYi Micro Hei Mono" GulimChe 굴림체 "MS Gothic" "ＭＳ ゴシック" NSimSun 新宋体 MingLiU
-  names Tahoma "${T[@]}"; names "DejaVu Sans Mono" "${M[@]}"
-  printf '\n[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows NT\\CurrentVersion\\FontLink\\SystemLink]\n'; links Tahoma "Tahoma Bold" "DejaVu Sans Mono" "${T[@]}" "${M[@]}"; }
-template() ( set -e; exec 8>"$WT/tpl.lock"; flock 8; [ -e "$WT/tpl.ok" ] && exit 0          # once, 12-18 s
-  rm -rf "$WT/tpl" "$WT"/slot* "$WT/locale"; mkdir -p "$WT/locale" "$WT/home"
-  printf '<?xml version="1.0"?>\n<!DOCTYPE fontconfig SYSTEM "fonts.dtd">\n<fontconfig><cachedir>%s/fc</cachedir></fontconfig>\n' "$WT" >"$FONTCONFIG_FILE"  # no system fonts
-  for l in ko_KR ja_JP zh_CN zh_TW ru_RU de_DE; do localedef -i $l -f UTF-8 "$WT/locale/$l.UTF-8"; done; ln -s /usr/lib/locale/C.utf8 "$WT/locale/"
-  export WINEPREFIX=$WT/tpl HOME=$WT/home; unset DISPLAY; W="$WT/tpl/drive_c/windows"; mkdir -p "$W/Fonts"
-  ln -s /usr/share/wine/fonts/{tahoma,tahomabd,marlett,symbol}.ttf /usr/share/fonts/truetype/wqy/wqy-microhei.ttc /usr/share/fonts/truetype/dejavu/DejaVuSansMono.ttf "$W/Fonts/"
-  timeout 120 $LOC $WINE wineboot -i </dev/null >"$WT/boot.log" 2>&1 8>&-
-  { printf '\xff\xfe'; reg | sed 's/$/\r/' | iconv -f UTF-8 -t UTF-16LE; } >"$WT/prefix.reg"
-  timeout 60 $LOC $WINE regedit /S "Z:${WT//\//\\}\\prefix.reg" </dev/null >>"$WT/boot.log" 2>&1 8>&-; srv_k "$WINEPREFIX"
-  find "$WT/tpl/drive_c/users" -type l -exec sh -c 'rm "$1" && mkdir "$1"' _ {} \;           # Documents etc. must not point into $HOME
-  for f in "$W"/system32/*; do b=$BI/${f##*/}; if [ -f "$f" ] && [ -f "$b" ] && cmp -s "$f" "$b"; then ln -sf "$b" "$f"; fi; done  # 695 -> 84 MB
-  grep -q '"Graphics"="null"' "$WT/tpl/user.reg"; : >"$WT/tpl.ok" )
-case $1 in --template) template; exit;; --down) for p in "$WT"/slot*/; do srv_k "${p%/}"; done; exit 0;; esac
-[ -e "$WT/tpl.ok" ] || template || exit 99
-while :; do for s in $(seq "${WINE_SLOTS:-$(nproc)}"); do exec 9>"$WT/slot$s-$gfx-$hc.lock"; flock -n 9 && break 2; done; sleep 0.02; done
-export WINEPREFIX=$WT/slot$s-$gfx-$hc; PIN="taskset -c $(( (s-1) % $(nproc) ))"               # one slot = one prefix = one CPU
-if [ ! -e "$WINEPREFIX/ok" ]; then rm -rf "$WINEPREFIX"; cp -al "$WT/tpl" "$WINEPREFIX"; cp --remove-destination "$WT"/tpl/*.reg "$WINEPREFIX/"
-  [ "$gfx" = null ] || sed -i 's/^"Graphics"="null"/"Graphics"="x11"/' "$WINEPREFIX/user.reg"
-  [ "$hc" = 0 ] || printf '%s\n' '' '[System\\CurrentControlSet\\Control\\Session Manager]' '"GlobalFlag"=dword:000000f0' '' '[Software\\Microsoft\\Windows NT\\CurrentVersion\\AeDebug]' '"Debugger"=""' >>"$WINEPREFIX/system.reg"
-  : >"$WINEPREFIX/ok"; fi
-[ "$hc" = 0 ] || WINEDEBUG=$WINEDEBUG,warn+heap
-$PIN timeout 15 $WINESERVER -p </dev/null >/dev/null 2>&1 9>&-                                # persistent; no-op if it runs
-o=$(mktemp); trap 'rm -f "$o"' EXIT
-$PIN timeout -k 5 "${WINE_TEST_TIMEOUT:-60}" $LOC $WINE "$@" </dev/null >"$o" 2>&1 9>&-; rc=$?; cat "$o"
-case $rc in 124|137) echo "wine.sh: timeout, slot $s reset"; srv_k "$WINEPREFIX";; esac
-[ "$hc" != 0 ] && grep -qE '(err|warn):heap:' "$o" && { echo "wine.sh: heap check failed"; rc=98; }
-exit $rc
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+root=${WINE_TEST_DIR:-$here/../build/wine}
+mkdir -p "$root" || exit 99
+root=$(cd "$root" && pwd)
+
+wine=/usr/lib/wine/wine64
+server=/usr/lib/wine/wineserver64
+graphics=${WINE_TEST_GFX:-null}
+heap_check=${WINE_HEAPCHECK:-0}
+locale=${WINE_TEST_LANG:-C}
+locale=${locale%%.*}.UTF-8
+
+# X finds its key beside the real home; everything else of the user stays out of sight.
+[ "$graphics" = null ] && unset DISPLAY || export XAUTHORITY=${XAUTHORITY:-$HOME/.Xauthority}
+export HOME=$root/home
+export WINELOADER=$wine WINESERVER=$server WINEARCH=win64 WINEDLLOVERRIDES='mscoree,mshtml='
+export WINEDEBUG=${WINEDEBUG-fixme-all,err-winediag,err-systray}
+export FONTCONFIG_FILE=$root/fonts.conf LOCPATH=$root/locale
+
+stop_server() { # PREFIX; "-w" alone would wait for idle services, so only after a "-k" that met a server
+  WINEPREFIX=$1 timeout 15 "$server" -k >/dev/null 2>&1 && WINEPREFIX=$1 timeout 15 "$server" -w >/dev/null 2>&1
+}
+
+# A locale that is not installed breaks every file name outside ASCII, so each one is made here on first use.
+make_locale() { # NAME
+  [ -e "$LOCPATH/$1" ] && return
+  (
+    flock 8
+    [ -e "$LOCPATH/$1" ] && exit
+    new=$LOCPATH/new.$1
+    mkdir -p "$LOCPATH" && rm -rf "$new" || exit
+    if [ "$1" = C.UTF-8 ]; then
+      ln -s /usr/lib/locale/C.utf8 "$new"
+    else
+      localedef -i "${1%%.*}" -f UTF-8 "$new" || { echo "wine.sh: no locale $1" >&2; exit 1; }
+    fi
+    mv -T "$new" "$LOCPATH/$1"
+  ) 8>"$root/locale.lock"
+}
+
+# The template is made anew when the script that makes it, or Wine itself, is newer.
+make_template() {
+  local made=$root/template/made
+  [ "$made" -nt "$here/wine-prefix.sh" ] && [ "$made" -nt /usr/share/wine/wine.inf ] && return
+  "$here/wine-prefix.sh" "$root"
+}
+
+processors() { # the numbers of the processors that this process may use, one a line
+  local range
+  for range in $(sed -n 's/^Cpus_allowed_list:\s*//p' /proc/self/status | tr , ' '); do
+    seq "${range%-*}" "${range#*-}"
+  done
+}
+
+# Holds the lock of a free slot as file descriptor 9 and sets slot, WINEPREFIX and pin.
+take_slot() {
+  local cpus number
+  mapfile -t cpus < <(processors)
+  while :; do
+    for ((number = 0; number < ${WINE_SLOTS:-${#cpus[@]}}; number++)); do
+      slot=slot$number-$graphics-$heap_check
+      exec 9>"$root/$slot.lock"
+      flock -n 9 && break 2
+    done
+    sleep 0.02
+  done
+  export WINEPREFIX=$root/$slot
+  pin=(taskset -c "${cpus[number % ${#cpus[@]}]}")
+}
+
+# A slot is a copy of the template by hard links, except for the registry, which the server rewrites in place.
+make_slot() {
+  [ "$WINEPREFIX/made" -nt "$root/template/made" ] && return
+  stop_server "$WINEPREFIX"
+  rm -rf "$WINEPREFIX"
+  cp -al "$root/template" "$WINEPREFIX" && rm "$WINEPREFIX/made" &&
+    cp --remove-destination "$root"/template/*.reg "$WINEPREFIX/" || return
+  if [ "$graphics" != null ]; then
+    sed -i "s/^\"Graphics\"=\"null\"/\"Graphics\"=\"$graphics\"/" "$WINEPREFIX/user.reg"
+  fi
+  if [ "$heap_check" != 0 ]; then
+    # Guard bytes around each block, and no debugger, which would hang on the damaged heap.
+    printf '%s\n' '' '[System\\CurrentControlSet\\Control\\Session Manager]' '"GlobalFlag"=dword:000000f0' \
+      '' '[Software\\Microsoft\\Windows NT\\CurrentVersion\\AeDebug]' '"Debugger"=""' >>"$WINEPREFIX/system.reg"
+  fi
+  : >"$WINEPREFIX/made"
+}
+
+# The output goes through a file: services that the first program starts would keep a pipe open, and
+# with it ctest waiting. For the same reason nothing inherits the slot's lock.
+run() {
+  local status
+  [ "$heap_check" = 0 ] || WINEDEBUG=$WINEDEBUG,warn+heap
+  out=$(mktemp) || return 99
+  "${pin[@]}" timeout 15 "$server" -p </dev/null >/dev/null 2>&1 9>&-
+  LC_ALL=$locale "${pin[@]}" timeout -k 5 "${WINE_TEST_TIMEOUT:-60}" "$wine" "$@" </dev/null >"$out" 2>&1 9>&- &
+  child=$!
+  wait "$child"
+  status=$?
+  cat "$out"
+  if [ "$status" -eq 124 ] || [ "$status" -eq 137 ]; then
+    echo "wine.sh: ended after ${WINE_TEST_TIMEOUT:-60} s"
+    stop_server "$WINEPREFIX"
+  elif [ "$heap_check" != 0 ] && grep -qE '(err|warn):heap:' "$out"; then
+    echo "wine.sh: the heap check found damage"
+    status=98
+  fi
+  rm -f "$out"
+  return "$status"
+}
+
+interrupted() {
+  trap '' INT TERM HUP
+  [ -n "${child-}" ] && kill "$child" 2>/dev/null
+  [ -n "${WINEPREFIX-}" ] && stop_server "$WINEPREFIX"
+  rm -f "${out-}"
+  exit 130
+}
+
+if [ ! -x "$wine" ]; then
+  echo "wine.sh: $wine is missing; scripts/setup.sh installs it" >&2
+  exit 99
+fi
+case ${1-} in
+--down)
+  for prefix in "$root"/slot*/ "$root"/template*/; do
+    [ -d "$prefix" ] && stop_server "${prefix%/}"
+  done
+  exit 0
+  ;;
+--prepare)
+  make_locale C.UTF-8 && make_template || exit 99
+  exit 0
+  ;;
+'' | --*)
+  sed -n '2,/^set/s/^# \{0,1\}//p' "${BASH_SOURCE[0]}"
+  exit 99
+  ;;
+esac
+make_locale C.UTF-8 && make_locale "$locale" && make_template || exit 99
+take_slot
+make_slot || exit 99
+trap interrupted INT TERM HUP
+run "$@"
