@@ -1,12 +1,13 @@
 #include "afxstr.h"
 
 #include "afxcase.h"
-#include "afxthrow.h"
+#include "afxexception.h"
 
 #include "platform/codepage.h"
 
 #include <algorithm>
 #include <climits>
+#include <cstdint>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -183,6 +184,14 @@ CStringT<T>::CStringT(PCYSTR pch, int nLength) : CStringT()
     if (nLength == 0)
         return;
     const std::basic_string_view<YCHAR> source(pch, static_cast<std::size_t>(nLength));
+    // ASCII is the same in every page.
+    if (std::all_of(pch, pch + nLength, [](YCHAR ch) { return static_cast<std::uint32_t>(ch) < 0x80; }))
+    {
+        Prepare(nLength, false);
+        std::transform(pch, pch + nLength, m_pszData, [](YCHAR ch) { return static_cast<T>(ch); });
+        SetLength(nLength);
+        return;
+    }
     if constexpr (std::is_same_v<T, char>)
     {
         const std::string text = narrow(source);

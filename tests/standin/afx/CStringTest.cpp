@@ -1,5 +1,7 @@
 #include <afxstr.h>
 
+#include "tests/support/print.h"
+
 #include <gtest/gtest.h>
 
 TEST(CString, CopySharesTheTextUntilOneIsChanged)
@@ -19,4 +21,11 @@ TEST(CString, AppendingItselfDoublesTheText)
     s += s;
     s += s.GetString() + 1;
     EXPECT_EQ(s, L"ababbab");
+}
+
+TEST(CString, FormatsAsTheWideFunctionsOfWindowsDo)
+{
+    CString s;
+    s.Format(L"%s %S %5.2f %04X %I64d %c", L"wide", "narrow", 3.14159, 0xABCu, 1LL << 40, L'z');
+    EXPECT_EQ(s, L"wide narrow  3.14 0ABC 1099511627776 z");
 }
