@@ -4,13 +4,19 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 
-/// The system registry, key by key. On Windows the calls go straight to the system. Elsewhere the
-/// registry is one text file of the user's configuration folder (`TARVO_REGISTRY` names another),
-/// written whole and renamed into place under a lock, so that two programs writing at once lose
-/// nothing. Key and value names are compared without regard to case. Keys are non-volatile.
+/// The system registry, key by key. On Windows the calls go straight to the system; elsewhere they
+/// work on one text file (platform/registry_text.h describes it): the environment's `TARVO_REGISTRY`
+/// names it, else it is `tarvo/registry` in `$XDG_CONFIG_HOME` or in `~/.config`. Every operation
+/// reads the file anew, and every change is made on the newest file under a lock, written whole and
+/// renamed into place; so two programs see each other's writes and lose none. A file that cannot be
+/// read is never written over.
+///
+/// Key and value names are compared without regard to case and keep their first spelling. Keys are
+/// non-volatile. A key name has 1 to 255 characters, a value name 0 to 16,383; other names fail, and
+/// natively those with a control character or half a surrogate pair in a key name. Nothing throws but
+/// std::bad_alloc.
 namespace platform::registry
 {
 enum class Root : std::uint32_t
@@ -29,18 +35,23 @@ inline constexpr std::uint32_t type_dword = 4;
 /// A predefined key: never needs closing, closing it is harmless.
 HKEY root(Root which);
 
-/// Opens \p name below \p parent for reading; an empty name opens the same key again. Null on failure.
+/// Opens \p name below \p parent for reading; an empty or null name opens the same key again, a name
+/// with backslashes a key further down. Null on failure.
 HKEY open(HKEY parent, const wchar_t* name);
 /// Opens \p name below \p parent for reading and writing, creating it when missing. Null on failure.
 HKEY create(HKEY parent, const wchar_t* name);
+/// Closes what open or create gave; null is harmless.
 void close(HKEY key);
 
-/// Copies at most \p size bytes of a value and sets \p size to the value's byte count. False when the
-/// value is missing or, with non-null \p data, does not fit. Null \p data asks for the size only.
-/// Text data are UTF-16LE bytes on every platform.
+/// Copies a value of at most \p size bytes to \p data and sets \p size to the value's byte count. False
+/// when the value is missing or, with non-null \p data, does not fit. Null \p data asks for the size
+/// only. A null or empty \p value is the key's unnamed value. Text data are UTF-16LE bytes on every
+/// platform.
 bool query(HKEY key, const wchar_t* value, void* data, std::size_t& size, std::uint32_t* type = nullptr);
+/// False for a key that was opened for reading only or has been removed, or when the write failed.
 bool set(HKEY key, const wchar_t* value, std::uint32_t type, const void* data, std::size_t size);
+/// False when the value was not there, or as for set.
 bool remove_value(HKEY key, const wchar_t* value);
-/// Removes \p name below \p parent with everything under it.
+/// Removes \p name below \p parent with everything under it. False when it was not there.
 bool remove_tree(HKEY parent, const wchar_t* name);
 } // namespace platform::registry
