@@ -71,7 +71,12 @@ function(tarvo_test name)
   add_executable(${name} ${sources})
   tarvo_options(${name})
   target_link_libraries(${name} PRIVATE ${arg_LIBS} tarvo_test_support GTest::gmock GTest::gtest)
-  set(environment "TARVO_TEST_SOURCE_DIR=${PROJECT_SOURCE_DIR}")
+  # Relative to the test's working folder: a Windows program's environment cannot hold every character
+  # that the path of a clone may have.
+  file(RELATIVE_PATH source_dir ${CMAKE_CURRENT_BINARY_DIR} ${PROJECT_SOURCE_DIR})
+  # The launcher gives up before ctest does, and says so.
+  math(EXPR wine_timeout "${arg_TIMEOUT} * 4 / 5")
+  set(environment "TARVO_TEST_SOURCE_DIR=${source_dir}" "WINE_TEST_TIMEOUT=${wine_timeout}")
   if(arg_LOCALE)
     list(APPEND environment "WINE_TEST_LANG=${arg_LOCALE}.UTF-8")
   endif()
