@@ -8,7 +8,8 @@
 #
 #   WINE_TEST_LANG=ko_KR    user and system locale of the program; default: English with code page 1252
 #   WINE_TEST_TIMEOUT=60    seconds after which the program is ended
-#   WINE_TEST_GFX=null|x11  null (default): real windows on an invisible screen; x11: windows on $DISPLAY
+#   WINE_TEST_GFX=MODE      null (default): real windows on an invisible screen; x11: windows on $DISPLAY,
+#                           placed by Wine; desktop: the same as an ordinary program of your desktop
 #   WINE_HEAPCHECK=1        guards every heap block (slow)
 #   WINE_SLOTS=N            programs at a time; default: one for each processor
 #   WINE_TEST_DIR=FOLDER    where prefix and slots live; default: build/wine, shared by all presets
@@ -96,7 +97,10 @@ make_slot() {
   cp -al "$root/template" "$WINEPREFIX" && rm "$WINEPREFIX/made" &&
     cp --remove-destination "$root"/template/*.reg "$WINEPREFIX/" || return
   if [ "$graphics" != null ]; then
-    sed -i "s/^\"Graphics\"=\"null\"/\"Graphics\"=\"$graphics\"/" "$WINEPREFIX/user.reg"
+    sed -i 's/^"Graphics"="null"/"Graphics"="x11"/' "$WINEPREFIX/user.reg"
+  fi
+  if [ "$graphics" = desktop ]; then
+    sed -i 's/^"Managed"="N"/"Managed"="Y"/' "$WINEPREFIX/user.reg"
   fi
   if [ "$heap_check" != 0 ]; then
     # Guard bytes around each block, and no debugger, which would hang on the damaged heap.
