@@ -50,21 +50,6 @@ bool write_all(int fd, std::string_view bytes)
     return true;
 }
 
-bool read_all(int fd, std::string& bytes)
-{
-    std::size_t done = 0;
-    while (done < bytes.size())
-    {
-        const ssize_t n = ::read(fd, bytes.data() + done, bytes.size() - done);
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n <= 0)
-            return false;
-        done += static_cast<std::size_t>(n);
-    }
-    return true;
-}
-
 /// The folder part of a path, its last slash included; empty for a bare name.
 std::string folder_of(const std::string& path)
 {
@@ -123,6 +108,21 @@ Written replace_regular(const std::string& path, const struct stat* old, std::st
     return result;
 }
 } // namespace
+
+bool read_all(int fd, std::string& bytes)
+{
+    std::size_t done = 0;
+    while (done < bytes.size())
+    {
+        const ssize_t n = ::read(fd, bytes.data() + done, bytes.size() - done);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            return false;
+        done += static_cast<std::size_t>(n);
+    }
+    return true;
+}
 
 std::optional<std::string> read_whole(const char* path, std::uint64_t most)
 {

@@ -27,6 +27,9 @@ private:
     int m_fd;
 };
 
+/// Fills \p bytes from the file's position on. False when the file ends before.
+bool read_all(int fd, std::string& bytes);
+
 std::optional<std::string> read_whole(const char* path, std::uint64_t most);
 Written write_whole(const char* path, std::string_view bytes);
 Written replace_whole(const char* path, std::string_view bytes);

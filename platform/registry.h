@@ -9,8 +9,8 @@
 /// The system registry, key by key. On Windows the calls go straight to the system; elsewhere they
 /// work on one text file (platform/registry_text.h describes it): the environment's `TARVO_REGISTRY`
 /// names it, else it is `tarvo/registry` in `$XDG_CONFIG_HOME` or in `~/.config`. Every operation
-/// reads the file anew, and every change is made on the newest file under a lock, written whole and
-/// renamed into place; so two programs see each other's writes and lose none. A file that cannot be
+/// looks at the newest file, and every change is made on it under a lock, written whole and renamed into
+/// place; so two programs see each other's writes and lose none. A file that cannot be
 /// read is never written over.
 ///
 /// Key and value names are compared without regard to case and keep their first spelling. Keys are

@@ -8,6 +8,9 @@
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <memory>
+#include <mutex>
+#include <optional>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -72,18 +75,83 @@ std::string file_path()
     return home.empty() ? std::string() : home + "/.config/tarvo/registry";
 }
 
-/// The newest document. A missing file is an empty one; nothing when there is a file and it cannot be
-/// read, so that nobody writes over it.
-std::optional<Document> load(const std::string& path)
+using DocumentPtr = std::shared_ptr<const Document>;
+
+/// The document last read or written, for as long as its file is the same. The open descriptor keeps
+/// the file's number from being given to a later one; so a replaced file is always another one, and
+/// one that was edited in place has another size or time.
+class Cache
 {
-    if (path.empty())
-        return std::nullopt;
-    if (const std::optional<std::string> bytes = file::posix::read_whole(path.c_str(), most_bytes))
-        return Document(*bytes);
-    struct stat info;
-    const bool missing = ::stat(path.c_str(), &info) != 0 && (errno == ENOENT || errno == ENOTDIR);
-    return missing ? std::optional(Document(Document::heading())) : std::nullopt;
+public:
+    /// The newest document. A missing file is an empty one; null when there is a file and it cannot be
+    /// read, so that nobody writes over it.
+    DocumentPtr load(const std::string& path)
+    {
+        if (path.empty())
+            return nullptr;
+        const std::lock_guard<std::mutex> guard(m_mutex);
+        struct stat now;
+        if (::stat(path.c_str(), &now) != 0)
+            return errno == ENOENT || errno == ENOTDIR ? std::make_shared<Document>(Document::heading())
+                                                       : nullptr;
+        if (!m_document || !is_same(now))
+        {
+            m_document.reset();
+            const std::optional<std::string> bytes = open(path) ? read() : std::nullopt;
+            if (bytes)
+                m_document = std::make_shared<Document>(*bytes);
+        }
+        return m_document;
+    }
+
+    /// Writes a document, under the lock of all writers.
+    bool save(const std::string& path, DocumentPtr document)
+    {
+        const std::lock_guard<std::mutex> guard(m_mutex);
+        const std::string text = document->text();
+        if (text.size() > most_bytes || file::posix::replace_whole(path.c_str(), text) != file::Written::ok)
+            return false;
+        m_document = open(path) ? std::move(document) : nullptr;
+        return true;
+    }
+
+private:
+    bool open(const std::string& path)
+    {
+        m_file.emplace(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+        return *m_file && ::fstat(m_file->get(), &m_info) == 0 && S_ISREG(m_info.st_mode) &&
+               static_cast<std::uint64_t>(m_info.st_size) <= most_bytes;
+    }
+
+    std::optional<std::string> read() const
+    {
+        std::string bytes(static_cast<std::size_t>(m_info.st_size), '\0');
+        return file::posix::read_all(m_file->get(), bytes) ? std::optional(std::move(bytes)) : std::nullopt;
+    }
+
+    bool is_same(const struct stat& now) const
+    {
+        const auto same_time = [](const timespec& a, const timespec& b) {
+            return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
+        };
+        return now.st_dev == m_info.st_dev && now.st_ino == m_info.st_ino && now.st_size == m_info.st_size &&
+               same_time(now.st_mtim, m_info.st_mtim) && same_time(now.st_ctim, m_info.st_ctim);
+    }
+
+    std::mutex m_mutex;
+    std::optional<file::posix::Descriptor> m_file;
+    struct stat m_info = {};
+    DocumentPtr m_document;
+};
+
+/// Made on first use: settings are read while libraries are still being loaded.
+Cache& cache()
+{
+    static Cache instance;
+    return instance;
 }
+
+DocumentPtr load(const std::string& path) { return cache().load(path); }
 
 void make_folders_of(const std::string& path)
 {
@@ -111,11 +179,11 @@ bool change(Edit edit)
     if (path.empty())
         return false;
     const file::posix::Descriptor locked = lock(path);
-    std::optional<Document> document = locked ? load(path) : std::nullopt;
-    if (!document || !edit(*document))
+    const DocumentPtr newest = locked ? load(path) : nullptr;
+    if (!newest)
         return false;
-    const std::string text = document->text();
-    return text.size() <= most_bytes && file::posix::replace_whole(path.c_str(), text) == file::Written::ok;
+    const auto document = std::make_shared<Document>(*newest);
+    return edit(*document) && cache().save(path, document);
 }
 
 /// Text that comes back from UTF-8 as it was, and stands on one line.
@@ -164,7 +232,7 @@ HKEY root(Root which) { return reinterpret_cast<HKEY>(static_cast<std::uintptr_t
 HKEY open(HKEY parent, const wchar_t* name)
 {
     std::optional<std::wstring> path = path_below(parent, name);
-    const std::optional<Document> document = path ? load(file_path()) : std::nullopt;
+    const DocumentPtr document = path ? load(file_path()) : nullptr;
     if (!document || !(is_root_path(*path) || document->has_key(*path)))
         return nullptr;
     return new HKEY__{std::move(*path), false};
@@ -175,7 +243,7 @@ HKEY create(HKEY parent, const wchar_t* name)
     std::optional<std::wstring> path = path_below(parent, name);
     if (!path)
         return nullptr;
-    const std::optional<Document> document = load(file_path());
+    const DocumentPtr document = load(file_path());
     if (!document)
         return nullptr;
     const bool there = is_root_path(*path) || document->has_key(*path);
@@ -197,7 +265,7 @@ void close(HKEY key)
 
 bool query(HKEY key, const wchar_t* value, void* data, std::size_t& size, std::uint32_t* type)
 {
-    const std::optional<Document> document = key ? load(file_path()) : std::nullopt;
+    const DocumentPtr document = key ? load(file_path()) : nullptr;
     const posix::Value* found = document ? document->find(path_of(key), value_name(value)) : nullptr;
     if (!found || (data && found->data.size() > size))
         return false;

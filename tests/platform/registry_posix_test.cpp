@@ -6,6 +6,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <memory>
 #include <sys/resource.h>
@@ -209,7 +210,7 @@ TEST_F(RegistryFile, KeyNameThatTextCannotHoldIsRefused)
 
 TEST_F(RegistryFile, TwoProgramsWritingAtOnceLoseNothing)
 {
-    constexpr int writes = 60;
+    constexpr int writes = 40;
     const auto writer = [&](wchar_t who) {
         for (int i = 0; i < writes; ++i)
         {
@@ -243,6 +244,20 @@ TEST_F(RegistryFile, WriteOfAnotherProgramIsSeenAtOnce)
     ASSERT_TRUE(put(key, L"v", "1"));
     EXPECT_EQ(in_child([&] { return put(create(L"A"), L"v", "2") ? 0 : 1; }), 0);
     EXPECT_EQ(get(key, L"v"), "2");
+}
+
+TEST_F(RegistryFile, EditInPlaceIsSeenAlsoWhenTheSizeStays)
+{
+    write("[HKEY_CURRENT_USER\\A]\n\"v\"=hex:31\n");
+    const Key key = open(L"A");
+    EXPECT_EQ(get(key, L"v"), "1");
+    write("[HKEY_CURRENT_USER\\A]\n\"v\"=hex:32\n");
+    const timespec later[2] = {{2000000000, 0}, {2000000000, 0}}; // the clock may not have ticked
+    ::utimensat(AT_FDCWD, narrow(path).c_str(), later, 0);
+    EXPECT_EQ(get(key, L"v"), "2");
+    ASSERT_TRUE(file::remove(path.c_str()));
+    EXPECT_EQ(get(key, L"v"), "(none)");
+    EXPECT_FALSE(put(key, L"v", "3"));
 }
 
 TEST_F(RegistryFile, FullDiskLeavesTheOldFile)
