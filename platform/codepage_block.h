@@ -12,7 +12,15 @@
 /// Two versions of the same calls: with the vector unit that every x86-64 has, and without.
 namespace platform::codepage
 {
-constexpr std::size_t block_size = 64;
+/// How far a conversion has come: what it reads next and where it writes next.
+template <class In, class Out>
+struct Progress
+{
+    const In* in;
+    Out* out;
+};
+
+constexpr std::ptrdiff_t block_size = 64;
 
 /// Bytes b with (b ^ flip) - first <= span, modulo 256: one range, or two of which one bit makes one.
 struct ByteSet
@@ -116,7 +124,7 @@ public:
     bool ascii() const
     {
         std::uint8_t all = 0;
-        for (std::size_t i = 0; i < block_size; ++i)
+        for (std::ptrdiff_t i = 0; i < block_size; ++i)
             all |= m_bytes[i];
         return all < 0x80;
     }
@@ -124,7 +132,7 @@ public:
     bool has_nul() const
     {
         bool found = false;
-        for (std::size_t i = 0; i < block_size; ++i)
+        for (std::ptrdiff_t i = 0; i < block_size; ++i)
             found |= m_bytes[i] == 0;
         return found;
     }
@@ -132,7 +140,7 @@ public:
     std::uint64_t in(const ByteSet& set) const
     {
         std::uint64_t mask = 0;
-        for (std::size_t i = 0; i < block_size; ++i)
+        for (std::ptrdiff_t i = 0; i < block_size; ++i)
             mask |= static_cast<std::uint64_t>(set.holds(m_bytes[i])) << i;
         return mask;
     }
@@ -161,6 +169,13 @@ bool narrow16(const Unit* units, char* out)
 }
 
 #endif
+
+template <class Unit>
+void widen_block(const std::uint8_t* bytes, Unit* out)
+{
+    for (std::ptrdiff_t i = 0; i < block_size; i += 16)
+        widen16(bytes + i, out + i);
+}
 
 /// How many bits are set; the compiler's own call is slower where the processor has no instruction that
 /// every processor has.

@@ -3,7 +3,6 @@
 #include "platform/codepage_block.h"
 
 #include <memory>
-#include <string_view>
 
 /// The native conversions of the pages that are tables. UTF-8 is codepage_utf8.h.
 namespace platform::codepage
@@ -13,8 +12,8 @@ struct Page
 {
     bool double_byte;
     ByteSet leads;
-    /// Of a single-byte page 256 units. Of a double-byte page 65,536, by first | second << 8, and for a
-    /// first byte that is no lead byte the same unit whatever the second is.
+    /// Of a single-byte page 256 units. Of a double-byte page 65,536, by first | second << 8 as two bytes
+    /// are loaded at once, and for a first byte that is no lead byte the same unit whatever the second is.
     std::unique_ptr<std::uint16_t[]> units;
     /// By unit: the one byte, or first | second << 8 (no second byte is 0).
     std::unique_ptr<std::uint16_t[]> bytes;
@@ -23,11 +22,14 @@ struct Page
 /// Null for a page that is no table. The tables are made on first use and stay.
 const Page* find_page(int page);
 
-/// \p Unit is char16_t or wchar_t. \p out has room for bytes.size() units.
+/// Decodes the characters that begin before \p stop; the last may reach past it, but not past \p end,
+/// the end of the whole text. \p Unit is char16_t or wchar_t. There is room for a unit for each byte up
+/// to where the last character ends.
 template <class Unit>
-std::size_t decode_page(const Page& page, std::string_view bytes, Unit* out);
+Progress<std::uint8_t, Unit> decode_page(const Page& page, Progress<std::uint8_t, Unit> at,
+                                         const std::uint8_t* stop, const std::uint8_t* end);
 
-/// \p out has room for encoded_bound(text.size()) bytes.
+/// Encodes the units up to \p end. There is room for encoded_bound() of them.
 template <class Unit>
-std::size_t encode_page(const Page& page, std::basic_string_view<Unit> text, char* out);
+Progress<Unit, char> encode_page(const Page& page, Progress<Unit, char> at, const Unit* end);
 } // namespace platform::codepage

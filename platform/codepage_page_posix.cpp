@@ -108,35 +108,25 @@ Page unpack_page(const PackedPage& packed)
     return page;
 }
 
-const std::uint8_t* unsigned_bytes(std::string_view bytes)
-{
-    return reinterpret_cast<const std::uint8_t*>(bytes.data());
-}
+template <class Unit>
+using Decoding = Progress<std::uint8_t, Unit>;
 
 template <class Unit>
-void widen_block(const std::uint8_t* bytes, Unit* out)
-{
-    for (std::size_t i = 0; i < block_size; i += 16)
-        widen16(bytes + i, out + i);
-}
-
-template <class Unit>
-std::size_t decode_single(const Page& page, std::string_view bytes, Unit* out)
+Decoding<Unit> decode_single(const Page& page, Decoding<Unit> at, const std::uint8_t* stop)
 {
     const std::uint16_t* const units = page.units.get();
-    const std::uint8_t* p = unsigned_bytes(bytes);
-    const std::uint8_t* const end = p + bytes.size();
-    for (; end - p >= static_cast<std::ptrdiff_t>(block_size); p += block_size, out += block_size)
+    auto [p, out] = at;
+    for (; stop - p >= block_size; p += block_size, out += block_size)
     {
         if (Block(p).ascii())
             widen_block(p, out);
         else
-            for (std::size_t i = 0; i < block_size; ++i)
+            for (std::ptrdiff_t i = 0; i < block_size; ++i)
                 out[i] = static_cast<Unit>(units[p[i]]);
     }
-    while (p < end)
+    while (p < stop)
         *out++ = static_cast<Unit>(units[*p++]);
-    return bytes.size();
+    return {p, out};
 }
 
 /// Of the bytes that could be lead bytes those that are, when a character begins at the first of them: in
@@ -152,37 +142,46 @@ std::uint64_t true_leads(std::uint64_t candidates)
 }
 
 template <class Unit>
-struct Progress
-{
-    const std::uint8_t* bytes;
-    Unit* out;
-};
-
-/// Decodes the characters that begin before \p stop; the last may reach past it, but not past \p end.
-template <class Unit>
-Progress<Unit> decode_one_by_one(const Page& page, Progress<Unit> at, const std::uint8_t* stop,
+Decoding<Unit> decode_one_by_one(const Page& page, Decoding<Unit> at, const std::uint8_t* stop,
                                  const std::uint8_t* end)
 {
-    while (at.bytes < stop)
+    while (at.in < stop)
     {
-        const unsigned first = *at.bytes++;
+        const unsigned first = *at.in++;
         unsigned second = 0;
-        if (at.bytes < end && *at.bytes && page.leads.holds(static_cast<std::uint8_t>(first)))
-            second = *at.bytes++;
+        if (at.in < end && *at.in && page.leads.holds(static_cast<std::uint8_t>(first)))
+            second = *at.in++;
         *at.out++ = static_cast<Unit>(page.units[first | second << 8]);
     }
     return at;
 }
 
+/// Decodes the \p count characters that begin at the set bits. Always eight at a time: what is too much is
+/// overwritten later, and still inside the room of the block.
 template <class Unit>
-std::size_t decode_double(const Page& page, std::string_view bytes, Unit* out)
+void decode_at(const std::uint16_t* units, const std::uint8_t* p, std::uint64_t begins, std::size_t count,
+               Unit* out)
 {
-    const std::uint16_t* const units = page.units.get();
-    Progress<Unit> at{unsigned_bytes(bytes), out};
-    const std::uint8_t* const end = at.bytes + bytes.size();
-    while (end - at.bytes > static_cast<std::ptrdiff_t>(block_size))
+    const auto next = [&] {
+        const std::uint8_t* const c = p + lowest_bit(begins);
+        begins &= begins - 1;
+        *out++ = static_cast<Unit>(units[c[0] | c[1] << 8]);
+    };
+    for (const Unit* const last = out + count; out < last;)
     {
-        const std::uint8_t* const p = at.bytes;
+        next(), next(), next(), next();
+        next(), next(), next(), next();
+    }
+}
+
+template <class Unit>
+Decoding<Unit> decode_double(const Page& page, Decoding<Unit> at, const std::uint8_t* stop,
+                             const std::uint8_t* end)
+{
+    // One byte more than the block, which the last character may need.
+    while (stop - at.in >= block_size && end - at.in > block_size)
+    {
+        const std::uint8_t* const p = at.in;
         const Block block(p);
         if (block.ascii())
         {
@@ -199,18 +198,49 @@ std::size_t decode_double(const Page& page, std::string_view bytes, Unit* out)
         // Walking from lead byte to lead byte would wait for each byte to be loaded. So the places where
         // characters begin are found all at once, and the loads depend on nothing.
         const std::uint64_t leads = true_leads(block.in(page.leads));
-        std::uint64_t begins = ~(leads << 1);
+        const std::uint64_t begins = ~(leads << 1);
         const std::size_t count = count_bits(begins);
-        for (std::size_t i = 0; i < count; i += 4)
-            for (std::size_t k = i; k < i + 4; ++k)
-            {
-                const std::uint8_t* const c = p + lowest_bit(begins);
-                at.out[k] = static_cast<Unit>(units[c[0] | c[1] << 8]);
-                begins &= begins - 1;
-            }
+        decode_at(page.units.get(), p, begins, count, at.out);
         at = {p + block_size + (leads >> 63), at.out + count};
     }
-    return static_cast<std::size_t>(decode_one_by_one(page, at, end, end).out - out);
+    return decode_one_by_one(page, at, stop, end);
+}
+
+template <class Unit>
+Progress<Unit, char> encode_single(const std::uint16_t* bytes, Progress<Unit, char> at, const Unit* end)
+{
+    for (; end - at.in >= 16; at.in += 16, at.out += 16)
+        if (!narrow16(at.in, at.out))
+            for (int i = 0; i < 16; ++i)
+                at.out[i] = static_cast<char>(bytes[static_cast<char16_t>(at.in[i])]);
+    while (at.in < end)
+        *at.out++ = static_cast<char>(bytes[static_cast<char16_t>(*at.in++)]);
+    return at;
+}
+
+template <class Unit>
+Progress<Unit, char> encode_double(const std::uint16_t* table, Progress<Unit, char> at, const Unit* end)
+{
+    const Unit* p = at.in;
+    char* out = at.out;
+    const auto put = [&](Unit unit) {
+        const unsigned bytes = table[static_cast<char16_t>(unit)];
+        // Two always: the room is larger than the result, and a byte too much is overwritten.
+        out[0] = static_cast<char>(bytes);
+        out[1] = static_cast<char>(bytes >> 8);
+        out += 1 + (bytes > 0xFF);
+    };
+    for (; end - p >= 16; p += 16)
+    {
+        if (narrow16(p, out))
+            out += 16;
+        else
+            for (int i = 0; i < 16; ++i)
+                put(p[i]);
+    }
+    while (p < end)
+        put(*p++);
+    return {p, out};
 }
 } // namespace
 
@@ -233,39 +263,23 @@ const Page* find_page(int page)
 }
 
 template <class Unit>
-std::size_t decode_page(const Page& page, std::string_view bytes, Unit* out)
+Decoding<Unit> decode_page(const Page& page, Decoding<Unit> at, const std::uint8_t* stop,
+                           const std::uint8_t* end)
 {
-    return page.double_byte ? decode_double(page, bytes, out) : decode_single(page, bytes, out);
+    return page.double_byte ? decode_double(page, at, stop, end) : decode_single(page, at, stop);
 }
 
 template <class Unit>
-std::size_t encode_page(const Page& page, std::basic_string_view<Unit> text, char* out)
+Progress<Unit, char> encode_page(const Page& page, Progress<Unit, char> at, const Unit* end)
 {
-    const std::uint16_t* const table = page.bytes.get();
-    const char* const begin = out;
-    const auto put = [&out, table](Unit unit) {
-        const unsigned bytes = table[static_cast<char16_t>(unit)];
-        out[0] = static_cast<char>(bytes);
-        out[1] = static_cast<char>(bytes >> 8);
-        out += 1 + (bytes > 0xFF);
-    };
-    const Unit* p = text.data();
-    const Unit* const end = p + text.size();
-    for (; end - p >= 16; p += 16)
-    {
-        if (narrow16(p, out))
-            out += 16;
-        else
-            for (int i = 0; i < 16; ++i)
-                put(p[i]);
-    }
-    while (p < end)
-        put(*p++);
-    return static_cast<std::size_t>(out - begin);
+    return page.double_byte ? encode_double(page.bytes.get(), at, end)
+                            : encode_single(page.bytes.get(), at, end);
 }
 
-template std::size_t decode_page(const Page&, std::string_view, char16_t*);
-template std::size_t decode_page(const Page&, std::string_view, wchar_t*);
-template std::size_t encode_page(const Page&, std::u16string_view, char*);
-template std::size_t encode_page(const Page&, std::wstring_view, char*);
+template Decoding<char16_t> decode_page(const Page&, Decoding<char16_t>, const std::uint8_t*,
+                                        const std::uint8_t*);
+template Decoding<wchar_t> decode_page(const Page&, Decoding<wchar_t>, const std::uint8_t*,
+                                       const std::uint8_t*);
+template Progress<char16_t, char> encode_page(const Page&, Progress<char16_t, char>, const char16_t*);
+template Progress<wchar_t, char> encode_page(const Page&, Progress<wchar_t, char>, const wchar_t*);
 } // namespace platform::codepage

@@ -3,6 +3,7 @@
 #include "platform/codepage_page.h"
 #include "platform/codepage_utf8.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace platform::codepage
@@ -34,29 +35,64 @@ int system_page()
     return 1252;
 }
 
-template <class Unit>
-std::optional<std::size_t> decode_into(int page, std::string_view bytes, Unit* out)
+/// Everything that a page does: UTF-8, or a table.
+struct Converter
+{
+    const Page* table;
+
+    template <class Unit>
+    Progress<std::uint8_t, Unit> decode(Progress<std::uint8_t, Unit> at, const std::uint8_t* stop,
+                                        const std::uint8_t* end) const
+    {
+        return table ? decode_page(*table, at, stop, end) : decode_utf8(at, stop, end);
+    }
+
+    template <class Unit>
+    Progress<Unit, char> encode(Progress<Unit, char> at, const Unit* stop, const Unit* end) const
+    {
+        return table ? encode_page(*table, at, stop) : encode_utf8(at, stop, end);
+    }
+};
+
+std::optional<Converter> find(int page)
 {
     if (page == ansi)
         page = ansi_page();
     if (page == utf8)
-        return decode_utf8(bytes, out);
+        return Converter{nullptr};
     if (const Page* table = find_page(page))
-        return decode_page(*table, bytes, out);
+        return Converter{table};
     return std::nullopt;
 }
 
-template <class Unit>
-std::optional<std::size_t> encode_into(int page, std::basic_string_view<Unit> text, char* out)
+/// Fills a string by \p step, which converts a piece of at most \p piece and returns where it came to. The
+/// string grows by pieces, so that the zeros it is filled with first do not leave the cache.
+template <class In, class Out, class Step>
+std::basic_string<Out> convert_by_pieces(const In* begin, const In* end, std::size_t room_of_one, Step step)
 {
-    if (page == ansi)
-        page = ansi_page();
-    if (page == utf8)
-        return encode_utf8(text, out);
-    if (const Page* table = find_page(page))
-        return encode_page(*table, text, out);
-    return std::nullopt;
+    constexpr std::ptrdiff_t piece = 0x2000;
+    std::basic_string<Out> result;
+    std::size_t used = 0;
+    for (const In* p = begin; p < end;)
+    {
+        const In* const stop = p + std::min(piece, end - p);
+        result.resize(used + room_of_one * static_cast<std::size_t>(stop - p + 1));
+        const Progress<In, Out> at = step(Progress<In, Out>{p, result.data() + used}, stop);
+        used = static_cast<std::size_t>(at.out - result.data());
+        if (p == begin && at.in < end)
+        {
+            // What the first piece became tells about how much the whole will become.
+            const double ratio = static_cast<double>(used) / static_cast<double>(at.in - begin);
+            const auto whole = static_cast<double>(end - begin + piece);
+            result.reserve(static_cast<std::size_t>(1.05 * ratio * whole) + room_of_one * piece);
+        }
+        p = at.in;
+    }
+    result.resize(used);
+    return result;
 }
+
+const std::uint8_t* unsigned_bytes(const char* bytes) { return reinterpret_cast<const std::uint8_t*>(bytes); }
 } // namespace
 
 int ansi_page()
@@ -73,35 +109,48 @@ bool set_ansi_page(int page)
     return true;
 }
 
-bool known(int page) { return page == ansi || page == utf8 || find_page(page); }
+bool known(int page) { return find(page).has_value(); }
 
 std::optional<std::size_t> decode(int page, std::string_view bytes, char16_t* out)
 {
-    return decode_into(page, bytes, out);
+    const std::optional<Converter> converter = find(page);
+    if (!converter)
+        return std::nullopt;
+    const std::uint8_t* const begin = unsigned_bytes(bytes.data());
+    const std::uint8_t* const end = begin + bytes.size();
+    return static_cast<std::size_t>(
+        converter->decode(Progress<std::uint8_t, char16_t>{begin, out}, end, end).out - out);
 }
 
 std::optional<std::wstring> decode(int page, std::string_view bytes)
 {
-    std::wstring text(bytes.size(), L'\0');
-    const std::optional<std::size_t> units = decode_into(page, bytes, text.data());
-    if (!units)
+    const std::optional<Converter> converter = find(page);
+    if (!converter)
         return std::nullopt;
-    text.resize(*units);
-    return text;
+    const std::uint8_t* const begin = unsigned_bytes(bytes.data());
+    const std::uint8_t* const end = begin + bytes.size();
+    return convert_by_pieces<std::uint8_t, wchar_t>(
+        begin, end, 1, [&](auto at, const std::uint8_t* stop) { return converter->decode(at, stop, end); });
 }
 
 std::optional<std::size_t> encode(int page, std::u16string_view text, char* out)
 {
-    return encode_into(page, text, out);
+    const std::optional<Converter> converter = find(page);
+    if (!converter)
+        return std::nullopt;
+    const char16_t* const end = text.data() + text.size();
+    return static_cast<std::size_t>(
+        converter->encode(Progress<char16_t, char>{text.data(), out}, end, end).out - out);
 }
 
 std::optional<std::string> encode(int page, std::wstring_view text)
 {
-    std::string bytes(encoded_bound(text.size()), '\0');
-    const std::optional<std::size_t> size = encode_into(page, text, bytes.data());
-    if (!size)
+    const std::optional<Converter> converter = find(page);
+    if (!converter)
         return std::nullopt;
-    bytes.resize(*size);
-    return bytes;
+    const wchar_t* const end = text.data() + text.size();
+    return convert_by_pieces<wchar_t, char>(
+        text.data(), end, encoded_bound(1),
+        [&](auto at, const wchar_t* stop) { return converter->encode(at, stop, end); });
 }
 } // namespace platform::codepage

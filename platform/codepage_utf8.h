@@ -1,7 +1,6 @@
 #pragma once
 
-#include <cstddef>
-#include <string_view>
+#include "platform/codepage_block.h"
 
 /// The native conversions of UTF-8, by the system's rules for flags 0:
 /// - A byte that begins no character (0x80 to 0xC1, 0xF5 to 0xFF) is U+FFFD by itself.
@@ -13,11 +12,15 @@
 /// - Encoding, a lone surrogate is U+FFFD.
 namespace platform::codepage
 {
-/// \p Unit is char16_t or wchar_t. \p out has room for bytes.size() units.
+/// Decodes the characters that begin before \p stop; the last may reach past it, but not past \p end,
+/// the end of the whole text. \p Unit is char16_t or wchar_t. There is room for a unit for each byte up
+/// to where the last character ends.
 template <class Unit>
-std::size_t decode_utf8(std::string_view bytes, Unit* out);
+Progress<std::uint8_t, Unit> decode_utf8(Progress<std::uint8_t, Unit> at, const std::uint8_t* stop,
+                                         const std::uint8_t* end);
 
-/// \p out has room for encoded_bound(text.size()) bytes.
+/// Encodes the characters that begin before \p stop, the last perhaps with a unit behind it, but none from
+/// \p end on. There is room for encoded_bound() of the units and one more.
 template <class Unit>
-std::size_t encode_utf8(std::basic_string_view<Unit> text, char* out);
+Progress<Unit, char> encode_utf8(Progress<Unit, char> at, const Unit* stop, const Unit* end);
 } // namespace platform::codepage

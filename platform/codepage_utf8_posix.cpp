@@ -1,6 +1,8 @@
 #include "platform/codepage_utf8.h"
 
-#include "platform/codepage_block.h"
+#include "platform/codepage_utf8_blocks.h"
+
+#include <algorithm>
 
 namespace platform::codepage
 {
@@ -39,6 +41,24 @@ char32_t read_character(const std::uint8_t*& p, const std::uint8_t* end)
 }
 
 template <class Unit>
+Progress<std::uint8_t, Unit> decode_one_by_one(Progress<std::uint8_t, Unit> at, const std::uint8_t* stop,
+                                               const std::uint8_t* end)
+{
+    while (at.in < stop)
+    {
+        const char32_t c = read_character(at.in, end);
+        if (c >= 0x10000)
+        {
+            *at.out++ = static_cast<Unit>(0xD7C0 + (c >> 10));
+            *at.out++ = static_cast<Unit>(0xDC00 + (c & 0x3FF));
+        }
+        else
+            *at.out++ = static_cast<Unit>(c);
+    }
+    return at;
+}
+
+template <class Unit>
 char32_t read_character(const Unit*& p, const Unit* end)
 {
     const char32_t c = static_cast<char16_t>(*p++);
@@ -48,53 +68,66 @@ char32_t read_character(const Unit*& p, const Unit* end)
         return 0x10000 + ((c & 0x3FF) << 10) + (static_cast<char16_t>(*p++) & 0x3FF);
     return replacement;
 }
+
+char* put_character(char32_t c, char* out)
+{
+    const auto trail = [](char32_t bits) { return static_cast<char>(0x80 | (bits & 0x3F)); };
+    if (c < 0x80)
+        *out++ = static_cast<char>(c);
+    else if (c < 0x800)
+    {
+        *out++ = static_cast<char>(0xC0 | c >> 6);
+        *out++ = trail(c);
+    }
+    else
+    {
+        if (c < 0x10000)
+            *out++ = static_cast<char>(0xE0 | c >> 12);
+        else
+        {
+            *out++ = static_cast<char>(0xF0 | c >> 18);
+            *out++ = trail(c >> 12);
+        }
+        *out++ = trail(c >> 6);
+        *out++ = trail(c);
+    }
+    return out;
+}
 } // namespace
 
 template <class Unit>
-std::size_t decode_utf8(std::string_view bytes, Unit* out)
+Progress<std::uint8_t, Unit> decode_utf8(Progress<std::uint8_t, Unit> at, const std::uint8_t* stop,
+                                         const std::uint8_t* end)
 {
-    Unit* const begin = out;
-    const auto* p = reinterpret_cast<const std::uint8_t*>(bytes.data());
-    const std::uint8_t* const end = p + bytes.size();
-    while (p < end)
+    while (at.in < stop)
     {
-        const char32_t c = read_character(p, end);
-        if (c >= 0x10000)
-        {
-            *out++ = static_cast<Unit>(0xD7C0 + (c >> 10));
-            *out++ = static_cast<Unit>(0xDC00 + (c & 0x3FF));
-        }
-        else
-            *out++ = static_cast<Unit>(c);
+        at = decode_utf8_blocks(at, stop, end);
+        at = decode_one_by_one(at, at.in + std::min(block_size, stop - at.in), end);
     }
-    return static_cast<std::size_t>(out - begin);
+    return at;
 }
 
 template <class Unit>
-std::size_t encode_utf8(std::basic_string_view<Unit> text, char* out)
+Progress<Unit, char> encode_utf8(Progress<Unit, char> at, const Unit* stop, const Unit* end)
 {
-    const char* const begin = out;
-    const Unit* p = text.data();
-    const Unit* const end = p + text.size();
-    while (p < end)
+    while (at.in < stop)
     {
-        const char32_t c = read_character(p, end);
-        if (c < 0x80)
+        const Unit* const piece = at.in + std::min<std::ptrdiff_t>(16, stop - at.in);
+        if (piece - at.in == 16 && narrow16(at.in, at.out))
+            at = {piece, at.out + 16};
+        while (at.in < piece)
         {
-            *out++ = static_cast<char>(c);
-            continue;
+            const char32_t c = read_character(at.in, end);
+            at.out = put_character(c, at.out);
         }
-        constexpr unsigned marks[] = {0, 0xC0, 0xE0, 0xF0};
-        const int trails = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
-        *out++ = static_cast<char>(marks[trails] | c >> 6 * trails);
-        for (int k = trails - 1; k >= 0; --k)
-            *out++ = static_cast<char>(0x80 | (c >> 6 * k & 0x3F));
     }
-    return static_cast<std::size_t>(out - begin);
+    return at;
 }
 
-template std::size_t decode_utf8(std::string_view, char16_t*);
-template std::size_t decode_utf8(std::string_view, wchar_t*);
-template std::size_t encode_utf8(std::u16string_view, char*);
-template std::size_t encode_utf8(std::wstring_view, char*);
+template Progress<std::uint8_t, char16_t> decode_utf8(Progress<std::uint8_t, char16_t>, const std::uint8_t*,
+                                                      const std::uint8_t*);
+template Progress<std::uint8_t, wchar_t> decode_utf8(Progress<std::uint8_t, wchar_t>, const std::uint8_t*,
+                                                     const std::uint8_t*);
+template Progress<char16_t, char> encode_utf8(Progress<char16_t, char>, const char16_t*, const char16_t*);
+template Progress<wchar_t, char> encode_utf8(Progress<wchar_t, char>, const wchar_t*, const wchar_t*);
 } // namespace platform::codepage

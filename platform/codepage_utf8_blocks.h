@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/codepage_block.h"
+
+namespace platform::codepage
+{
+/// Decodes blocks as long as they are well-formed, none of their characters is above U+FFFF, and two bytes
+/// of the text follow them. Stops at the first that is not so, or when less than a block is left before
+/// \p stop; what it has decoded ends with a whole character.
+template <class Unit>
+Progress<std::uint8_t, Unit> decode_utf8_blocks(Progress<std::uint8_t, Unit> at, const std::uint8_t* stop,
+                                                const std::uint8_t* end);
+} // namespace platform::codepage
