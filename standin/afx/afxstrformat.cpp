@@ -402,17 +402,19 @@ int limited_length(const U* text, int precision)
     return n;
 }
 
-// The same for a text of the other character type: as much of it is read as makes precision characters.
+// The same for a text of the other character type: as much of it is read as makes precision characters,
+// and one byte more while the last one may be the first half of a character.
 template <class T, class U>
 CStringT<T> limited_conversion(const U* text, int precision)
 {
     if (precision < 0)
         return CStringT<T>(text);
-    for (int most = precision;; most *= 2)
+    for (int most = precision;; ++most)
     {
         const int n = limited_length(text, most);
         const CStringT<T> converted(text, n);
-        if (converted.GetLength() >= precision || n < most)
+        const bool complete = n == 0 || static_cast<std::uint32_t>(text[n - 1]) < 0x80;
+        if (n < most || converted.GetLength() > precision || (complete && converted.GetLength() == precision))
             return converted.Left(precision);
     }
 }

@@ -18,6 +18,7 @@ using PWSTR = wchar_t*;
 using PCSTR = const char*;
 using LPCSTR = const char*;
 using LPSTR = char*;
+using HANDLE = void*;
 using LPVOID = void*;
 using LPCVOID = const void*;
 using LONG = std::int32_t;
