@@ -1,1 +1,291 @@
-#include "tarvo/export.h"
+#include "tarvo/lang/XIni.h"
+
+#include "platform/codepage.h"
+#include "platform/file.h"
+#include "tarvo/lang/IniStore.h"
+
+#include <cstring>
+#include <cwchar>
+#include <new>
+#include <utility>
+
+XIni::XIni() { Init(); }
+
+XIni::XIni(const wchar_t* path) : XIni() { Open(path); }
+
+XIni::~XIni() = default;
+
+XIni::XIni(const XIni& source)
+    : m_pStore(std::make_unique<CIniStore>(*source.m_pStore)), m_strLastFound(source.m_strLastFound),
+      m_pLastFound(m_pStore->Twin(*source.m_pStore, source.m_pLastFound)),
+      m_pDefault(m_pStore->Twin(*source.m_pStore, source.m_pDefault)), m_nCodePage(source.m_nCodePage),
+      m_bOpened(source.m_bOpened)
+{
+}
+
+XIni& XIni::operator=(const XIni& source)
+{
+    XIni copy(source);
+    Swap(copy);
+    return *this;
+}
+
+XIni::XIni(XIni&& source) : XIni() { Swap(source); }
+
+XIni& XIni::operator=(XIni&& source)
+{
+    XIni taken(std::move(source));
+    Swap(taken);
+    return *this;
+}
+
+void XIni::Swap(XIni& other)
+{
+    std::swap(m_pStore, other.m_pStore);
+    std::swap(m_strLastFound, other.m_strLastFound);
+    std::swap(m_pLastFound, other.m_pLastFound);
+    std::swap(m_pDefault, other.m_pDefault);
+    std::swap(m_nCodePage, other.m_nCodePage);
+    std::swap(m_bOpened, other.m_bOpened);
+}
+
+void XIni::Init()
+{
+    m_pStore = std::make_unique<CIniStore>();
+    m_strLastFound.clear();
+    m_pLastFound = nullptr;
+    m_pDefault = nullptr;
+    m_bOpened = 0;
+}
+
+void XIni::Clear() { Init(); }
+
+int XIni::Open(const wchar_t* path)
+try
+{
+    Clear();
+    const auto bytes = platform::file::read_whole(path ? path : L"", kMostBytes);
+    if (!bytes)
+        return 0;
+    ParseBytes(*bytes);
+    return 1;
+}
+catch (const std::bad_alloc&)
+{
+    Clear();
+    return 0;
+}
+
+int XIni::OpenMemory(const unsigned char* bytes, int size)
+try
+{
+    if (!bytes || size < 0)
+        return 0;
+    return ParseBytes({reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size)});
+}
+catch (const std::bad_alloc&)
+{
+    return 0;
+}
+
+int XIni::OpenMemory(const wchar_t* text, int length)
+try
+{
+    const std::size_t count = text && length > 0 ? ::wcsnlen(text, static_cast<std::size_t>(length)) : 0;
+    char16_t* const units = m_pStore->AddText(count);
+    units::narrow(text, count, units);
+    Parse(units, count);
+    return 1;
+}
+catch (const std::bad_alloc&)
+{
+    return 0;
+}
+
+int XIni::ParseBytes(std::string_view bytes)
+{
+    if (bytes.size() < 2)
+        return 0;
+    if (!initext::IsUnicodeFileHeader(bytes))
+        return Ascii2Unicode(bytes);
+    const std::size_t count = (bytes.size() - 2) / 2;
+    char16_t* const text = m_pStore->AddText(count);
+    std::memcpy(text, bytes.data() + 2, count * sizeof *text);
+    Parse(text, count);
+    return 1;
+}
+
+int XIni::Ascii2Unicode(std::string_view bytes)
+{
+    bytes = bytes.substr(0, bytes.find('\0'));
+    char16_t* const room = m_pStore->AddText(bytes.size());
+    const auto count = platform::codepage::decode(m_nCodePage, bytes, room);
+    char16_t* const text = m_pStore->TrimText(count.value_or(0));
+    if (!count)
+        return 0;
+    Parse(text, *count);
+    return 1;
+}
+
+namespace
+{
+IniEntry MakeEntry(units::view key, units::view value)
+{
+    return {key.data(), value.data(), static_cast<std::uint32_t>(key.size()),
+            static_cast<std::uint32_t>(value.size())};
+}
+} // namespace
+
+void XIni::Parse(char16_t* text, std::size_t count)
+{
+    initext::CLineReader reader(text, count);
+    CKeyTable* section = nullptr;
+    std::vector<IniEntry> entries; // of the current section
+    const auto finish = [&] {
+        if (section)
+            section->Merge(entries);
+        entries.clear();
+    };
+    for (units::view line, key, value; reader.ReadALine(line);)
+    {
+        switch (initext::GetLineType(line))
+        {
+        case initext::LINE_SECTION:
+            finish();
+            section = StartSection(initext::ParseSection(line));
+            break;
+        case initext::LINE_DATA:
+            if (section && initext::ParseData(line, key, value))
+                entries.push_back(MakeEntry(key, value));
+            break;
+        case initext::LINE_OTHER:
+            if (section)
+                entries.push_back(MakeEntry(line, line.substr(line.size())));
+            break;
+        case initext::LINE_COMMENT:
+        case initext::LINE_BLANK:
+            break;
+        }
+    }
+    finish();
+    m_pStore->Tidy();
+    m_bOpened = 1;
+}
+
+/// The table that receives the lines after a section line; null after an empty name, so that they are
+/// dropped.
+CKeyTable* XIni::StartSection(units::view name)
+{
+    if (name.empty())
+        return nullptr;
+    CKeyTable* const table = FindOrMakeSection(name);
+    if (!m_pDefault && units::equal_no_case(name, u"TEXT"))
+        m_pDefault = table;
+    return table;
+}
+
+CKeyTable* XIni::CachedSection(units::view name) const
+{
+    return m_pLastFound && units::equal_no_case(name, m_strLastFound) ? m_pLastFound : nullptr;
+}
+
+CKeyTable* XIni::FindSection(const wchar_t* section)
+{
+    if (!section)
+        return m_pDefault;
+    const CUnits name(section);
+    if (CKeyTable* cached = CachedSection(name))
+        return cached;
+    CKeyTable* const found = m_pStore->Find(name);
+    if (found)
+    {
+        m_strLastFound = name;
+        m_pLastFound = found;
+    }
+    return found;
+}
+
+CKeyTable* XIni::FindOrMakeSection(units::view section)
+{
+    CKeyTable* const cached = CachedSection(section);
+    return cached ? cached : &m_pStore->Make(section);
+}
+
+CKeyTable* XIni::GetOrMakeSection(const wchar_t* section)
+{
+    return section ? FindOrMakeSection(CUnits(section)) : m_pDefault;
+}
+
+const IniEntry* XIni::FindEntry(const wchar_t* section, const wchar_t* key)
+{
+    const CKeyTable* const table = FindSection(section);
+    return table ? table->Find(CUnits(key)) : nullptr;
+}
+
+CString XIni::GetStr(const wchar_t* section, const wchar_t* key, const wchar_t* defaultValue)
+{
+    const IniEntry* const entry = FindEntry(section, key);
+    return entry ? units::to_string(entry->Value()) : CString(defaultValue);
+}
+
+int XIni::GetStr2(const wchar_t* section, const wchar_t* key, CString& value, const wchar_t* defaultValue)
+{
+    const IniEntry* const entry = FindEntry(section, key);
+    value = entry ? units::to_string(entry->Value()) : CString(defaultValue);
+    return entry ? 1 : 0;
+}
+
+int XIni::GetInt(const wchar_t* section, const wchar_t* key, int defaultValue, int radix)
+{
+    int value;
+    GetInt2(section, key, value, defaultValue, radix);
+    return value;
+}
+
+int XIni::GetInt2(const wchar_t* section, const wchar_t* key, int& value, int defaultValue, int radix)
+{
+    value = defaultValue;
+    CString text;
+    if (!GetStr2(section, key, text, nullptr))
+        return 0;
+    value = static_cast<int>(initext::ToUnsigned(text, radix));
+    return 1;
+}
+
+int XIni::SetStr(const wchar_t* section, const wchar_t* key, const wchar_t* value)
+{
+    CKeyTable* const table = GetOrMakeSection(section);
+    if (!table)
+        return 0;
+    table->SetAt(key, value);
+    m_pStore->Tidy();
+    return 1;
+}
+
+int XIni::SetInt(const wchar_t* section, const wchar_t* key, int value)
+{
+    return SetStr(section, key, std::to_wstring(value).c_str());
+}
+
+void XIni::GetSectionList(CStringArray& names) const
+{
+    for (int i = 0; i < GetSectionCount(); ++i)
+        names.Add(GetSectionAt(i).GetName());
+}
+
+int XIni::GetSectionCount() const { return static_cast<int>(m_pStore->GetCount()); }
+
+CKeyTable& XIni::GetSectionAt(int index) const { return m_pStore->Sorted(static_cast<std::size_t>(index)); }
+
+int XIni::SaveAs(const wchar_t* path) const
+{
+    const auto written = platform::file::write_whole(path ? path : L"", Serialize());
+    return written == platform::file::Written::not_opened ? 0 : 1;
+}
+
+std::string XIni::Serialize() const { return m_pStore->Serialize(); }
+
+int XIni::GetDlgTextArray(HWND, unsigned int, CArray<CString, CString>&, CArray<CString, CString>&)
+{
+    return 1;
+}

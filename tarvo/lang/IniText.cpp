@@ -1,0 +1,152 @@
+#include "tarvo/lang/IniText.h"
+
+#include "platform/codepage.h"
+
+#include <afxcase.h>
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+
+namespace initext
+{
+bool CLineReader::ReadALine(units::view& line)
+{
+    char16_t* const begin = m_p;
+    char16_t* end = begin;
+    bool fed = false;
+    while (!fed)
+    {
+        const std::size_t plain = units::find_control(m_p, m_pEnd) - m_p;
+        if (end != m_p)
+            std::copy(m_p, m_p + plain, end);
+        end += plain;
+        m_p += plain;
+        if (m_p == m_pEnd || *m_p == u'\0')
+            break;
+        const char16_t control = *m_p++;
+        fed = control == u'\n';
+        if (!fed && control != u'\r')
+            *end++ = control;
+    }
+    line = units::trim({begin, static_cast<std::size_t>(end - begin)});
+    return fed || end != begin;
+}
+
+LINE_TYPE GetLineType(units::view line)
+{
+    if (line.empty())
+        return LINE_BLANK;
+    if (line.front() == u'[' && line.back() == u']')
+        return LINE_SECTION;
+    if (line.front() == u';')
+        return LINE_COMMENT;
+    const char16_t* end = line.data() + line.size();
+    return units::find(line.data(), end, u'=') != end ? LINE_DATA : LINE_OTHER;
+}
+
+units::view ParseSection(units::view line)
+{
+    return line.size() < 2 ? units::view() : units::trim(line.substr(1, line.size() - 2));
+}
+
+namespace
+{
+/// What follows the marker that ends a remark, or all of \p key.
+units::view CutRemark(units::view key)
+{
+    constexpr units::view kMarker = u"/**/";
+    const char16_t* end = key.data() + key.size();
+    if (units::find(key.data(), end, u'/') == end)
+        return key;
+    const std::size_t marker = key.find(kMarker);
+    return marker == units::view::npos ? key : key.substr(marker + kMarker.size());
+}
+} // namespace
+
+bool ParseData(units::view line, units::view& key, units::view& value)
+{
+    if (line.empty() || line.front() == u';' || line.front() == u'[')
+        return false;
+    const char16_t* const end = line.data() + line.size();
+    const std::size_t equals = units::find(line.data(), end, u'=') - line.data();
+    if (equals == line.size())
+        return false;
+    key = units::trim(CutRemark(line.substr(0, equals)));
+    value = line.substr(key.size() + 1);
+    const std::size_t first = units::find(value.data(), end, u'"') - value.data();
+    if (first == value.size())
+        return true;
+    const std::size_t last = value.rfind(u'"');
+    value = value.substr(first + 1, last == first ? units::view::npos : last - first - 1);
+    return true;
+}
+
+const wchar_t* SkipWhiteSpace(const wchar_t* psz)
+{
+    while (*psz == L' ' || *psz == L'\t')
+        ++psz;
+    return psz;
+}
+
+bool IsUnicodeFileHeader(std::string_view bytes) { return bytes.substr(0, 2) == "\xFF\xFE"; }
+
+std::unique_ptr<char[]> Unicode2Ascii(const wchar_t* text, int codePage, int& size)
+{
+    const std::wstring_view whole = text ? text : L"";
+    const auto bytes = platform::codepage::encode(codePage, whole);
+    const std::size_t room = 2 * (whole.size() + 1);
+    if (!bytes || bytes->size() + 1 > room)
+        return nullptr;
+    auto buffer = std::make_unique<char[]>(room);
+    std::memcpy(buffer.get(), bytes->data(), bytes->size());
+    size = static_cast<int>(bytes->size()) + 1;
+    return buffer;
+}
+
+namespace
+{
+/// The value of a digit in bases up to 36; 36 for anything else.
+unsigned DigitOf(wchar_t ch)
+{
+    if (ch >= L'0' && ch <= L'9')
+        return static_cast<unsigned>(ch - L'0');
+    const wchar_t lower = static_cast<wchar_t>(ch | 0x20);
+    return lower >= L'a' && lower <= L'z' ? static_cast<unsigned>(lower - L'a') + 10 : 36;
+}
+
+/// The radix that a prefix stands for (0x hexadecimal, 0 octal), stepping over "0x".
+unsigned TakePrefix(const wchar_t*& p, unsigned radix)
+{
+    const bool hex = p[0] == L'0' && (p[1] == L'x' || p[1] == L'X') && DigitOf(p[2]) < 16;
+    if (hex && (radix == 0 || radix == 16))
+    {
+        p += 2;
+        return 16;
+    }
+    return radix != 0 ? radix : p[0] == L'0' ? 8 : 10;
+}
+} // namespace
+
+unsigned ToUnsigned(const wchar_t* psz, int radix)
+{
+    constexpr unsigned kMost = std::numeric_limits<unsigned>::max();
+    if (!psz || radix < 0 || radix == 1 || radix > 36)
+        return 0;
+    const wchar_t* p = psz;
+    while (afxIsSpace(*p))
+        ++p;
+    const bool negative = *p == L'-';
+    if (negative || *p == L'+')
+        ++p;
+    const unsigned base = TakePrefix(p, static_cast<unsigned>(radix));
+    unsigned number = 0;
+    for (unsigned digit = DigitOf(*p); digit < base; digit = DigitOf(*++p))
+    {
+        if (number > (kMost - digit) / base)
+            return kMost;
+        number = number * base + digit;
+    }
+    return negative ? 0 - number : number;
+}
+} // namespace initext

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "tarvo/export.h"
+#include "tarvo/lang/Units.h"
+
+#include <cstddef>
+#include <memory>
+#include <string_view>
+
+/// How the text of an INI document is taken apart: functions from text to text, without a document.
+namespace initext
+{
+/// The kinds of lines, tried in the order blank, section, comment, data, other.
+enum LINE_TYPE
+{
+    LINE_SECTION = 0, ///< begins with "[" and ends with "]"
+    LINE_DATA = 1,    ///< holds "=" anywhere
+    LINE_COMMENT = 2, ///< begins with ";"
+    LINE_BLANK = 3,
+    LINE_OTHER = 4
+};
+
+/// Reads lines from units that it may change: carriage returns are dropped by closing up the line.
+class TARVO_API CLineReader
+{
+public:
+    CLineReader(char16_t* text, std::size_t count) : m_p(text), m_pEnd(text + count) {}
+
+    /// The next line, trimmed; false at the end of the text, which is a NUL or the bound.
+    bool ReadALine(units::view& line);
+
+private:
+    char16_t* m_p;
+    char16_t* m_pEnd;
+};
+
+/// The kind of a trimmed line.
+TARVO_API LINE_TYPE GetLineType(units::view line);
+
+/// The name between the brackets of a section line, trimmed; empty when there is none.
+TARVO_API units::view ParseSection(units::view line);
+
+/// Splits a trimmed line at its first "=". A remark that ends with "/**/" is cut off the key's front. The
+/// value lies between the first and the last double quote; with one quote it is what follows it, with
+/// none the whole field. The field is counted from the line's end by the length of the trimmed key, so
+/// in «key = x» it is «= x»; written files quote every value, which makes that harmless.
+/// False for an empty line, a comment, a line that begins with "[" and one without "=".
+TARVO_API bool ParseData(units::view line, units::view& key, units::view& value);
+
+/// The first character behind the blanks (U+0020) and tabs at \p psz.
+TARVO_API const wchar_t* SkipWhiteSpace(const wchar_t* psz);
+
+/// True when the bytes begin with the UTF-16LE byte-order mark, FF FE.
+TARVO_API bool IsUnicodeFileHeader(std::string_view bytes);
+
+/// \p text in \p codePage with its NUL, and its size in bytes with the NUL in \p size. Null for an unknown
+/// page and for text that takes more than two bytes for each character.
+TARVO_API std::unique_ptr<char[]> Unicode2Ascii(const wchar_t* text, int codePage, int& size);
+
+/// The number at the front of \p psz as the C library's wcstoul reads it where long has 32 bits: white
+/// space, a sign (minus negates without sign), digits of \p radix, 0 for the prefixes of C. 0 without a
+/// number and for a radix other than 0 and 2 to 36; 0xFFFFFFFF when the number does not fit.
+TARVO_API unsigned ToUnsigned(const wchar_t* psz, int radix);
+} // namespace initext
