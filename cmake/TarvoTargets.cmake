@@ -15,7 +15,9 @@ endif()
 
 # tarvo_options(TARGET): warnings, sanitizers and definitions common to all of our targets.
 function(tarvo_options target)
-  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
+  target_include_directories(${target} PUBLIC
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(${target} PRIVATE -Wall -Wextra -Werror -Wshadow=local)
   else()
