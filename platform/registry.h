@@ -4,7 +4,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
+#include <optional>
+#include <string_view>
 
 /// The system registry, key by key. On Windows the calls go straight to the system; elsewhere they
 /// work on one text file (platform/registry_text.h describes it): the environment's `TARVO_REGISTRY`
@@ -27,6 +28,21 @@ enum class Root : std::uint32_t
     users = 0x80000003u,
     current_config = 0x80000005u
 };
+
+struct RootName
+{
+    Root root;
+    std::wstring_view name;
+};
+
+inline constexpr RootName root_names[] = {
+    {Root::classes_root, L"HKEY_CLASSES_ROOT"},     {Root::current_user, L"HKEY_CURRENT_USER"},
+    {Root::local_machine, L"HKEY_LOCAL_MACHINE"},   {Root::users, L"HKEY_USERS"},
+    {Root::current_config, L"HKEY_CURRENT_CONFIG"},
+};
+
+/// The root of a name, in any letter case; nothing for any other text, abbreviations included.
+std::optional<Root> root_by_name(std::wstring_view name);
 
 inline constexpr std::uint32_t type_string = 1;
 inline constexpr std::uint32_t type_binary = 3;

@@ -31,34 +31,22 @@ using posix::Document;
 constexpr std::uint64_t most_bytes = 256u << 20;
 constexpr std::size_t longest_key_name = 255, longest_value_name = 16383;
 
-struct RootName
-{
-    Root root;
-    const wchar_t* name;
-};
-
-constexpr RootName root_names[] = {
-    {Root::classes_root, L"HKEY_CLASSES_ROOT"},     {Root::current_user, L"HKEY_CURRENT_USER"},
-    {Root::local_machine, L"HKEY_LOCAL_MACHINE"},   {Root::users, L"HKEY_USERS"},
-    {Root::current_config, L"HKEY_CURRENT_CONFIG"},
-};
-
-/// The name of a predefined key, else null. Predefined keys are their numbers, never looked behind.
-const wchar_t* root_name(HKEY key)
+/// The name of a predefined key, else empty. Predefined keys are their numbers, never looked behind.
+std::wstring_view root_name(HKEY key)
 {
     for (const RootName& row : root_names)
         if (key == root(row.root))
             return row.name;
-    return nullptr;
+    return std::wstring_view();
 }
 
 std::wstring path_of(HKEY key)
 {
-    const wchar_t* name = root_name(key);
-    return name ? name : key->path;
+    const std::wstring_view name = root_name(key);
+    return name.empty() ? key->path : std::wstring(name);
 }
 
-bool is_writable(HKEY key) { return root_name(key) || key->writable; }
+bool is_writable(HKEY key) { return !root_name(key).empty() || key->writable; }
 
 /// The registry file; empty when the environment names no place for it.
 std::string file_path()
@@ -259,7 +247,7 @@ HKEY create(HKEY parent, const wchar_t* name)
 
 void close(HKEY key)
 {
-    if (key && !root_name(key))
+    if (key && root_name(key).empty())
         delete key;
 }
 

@@ -1,10 +1,9 @@
 #include "platform/registry_text_posix.h"
 
 #include "platform/codepage.h"
+#include "platform/registry.h"
 
 #include <algorithm>
-#include <array>
-#include <iterator>
 #include <locale.h>
 #include <wctype.h>
 
@@ -12,11 +11,7 @@ namespace platform::registry::posix
 {
 namespace
 {
-constexpr std::uint32_t text_type = 1, binary_type = 3, number_type = 4;
 constexpr std::string_view blanks = " \t\r";
-
-constexpr std::array<std::wstring_view, 5> roots = {
-    L"HKEY_CLASSES_ROOT", L"HKEY_CURRENT_USER", L"HKEY_LOCAL_MACHINE", L"HKEY_USERS", L"HKEY_CURRENT_CONFIG"};
 
 std::string_view trimmed(std::string_view text)
 {
@@ -181,9 +176,9 @@ std::optional<Value> read_data(std::string_view text)
         const std::optional<std::wstring> out = read_quoted(text);
         if (!out || !text.empty())
             return std::nullopt;
-        return Value{text_type, codepage::to_utf16le(*out + L'\0')};
+        return Value{type_string, codepage::to_utf16le(*out + L'\0')};
     }
-    std::uint32_t type = binary_type;
+    std::uint32_t type = type_binary;
     if (text.starts_with("dword:"))
     {
         text.remove_prefix(6);
@@ -193,7 +188,7 @@ std::optional<Value> read_data(std::string_view text)
         std::string data;
         for (int shift = 0; shift < 32; shift += 8)
             data += static_cast<char>(*number >> shift);
-        return Value{number_type, data};
+        return Value{type_dword, data};
     }
     if (text.starts_with("hex("))
     {
@@ -216,10 +211,10 @@ std::string written(const Value& value)
 {
     const std::string& data = value.data;
     const std::size_t size = data.size();
-    if (value.type == text_type && size >= 2 && size % 2 == 0 && !data[size - 1] && !data[size - 2])
+    if (value.type == type_string && size >= 2 && size % 2 == 0 && !data[size - 1] && !data[size - 2])
         return quoted(codepage::from_utf16le(std::string_view(data).substr(0, size - 2)));
     std::string out;
-    if (value.type == number_type && size == 4)
+    if (value.type == type_dword && size == 4)
     {
         out = "dword:";
         for (std::size_t i = 4; i-- > 0;)
@@ -228,7 +223,7 @@ std::string written(const Value& value)
     }
     out.reserve(3 * size + 16);
     out = "hex";
-    if (value.type != binary_type)
+    if (value.type != type_binary)
     {
         int digits = 1;
         while (digits < 8 && value.type >> (4 * digits))
@@ -248,8 +243,7 @@ std::string written(const Value& value)
 /// path ::= root {"\\" component}, the root in any letter case
 bool is_key_path(std::wstring_view path)
 {
-    const std::wstring root = upper(path.substr(0, path.find(L'\\')));
-    if (std::find(roots.begin(), roots.end(), root) == roots.end())
+    if (!root_by_name(path.substr(0, path.find(L'\\'))))
         return false;
     const bool control = std::any_of(path.begin(), path.end(), [](wchar_t c) { return c < 0x20; });
     return !control && path.back() != L'\\' && path.find(L"\\\\") == std::wstring_view::npos;

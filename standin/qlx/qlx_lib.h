@@ -1,10 +1,7 @@
 #pragma once
 
-/// Marks what the companion library exports.
-#if !defined(_WIN32)
-#define QLX_API
-#elif defined(QLX_BUILD)
-#define QLX_API __declspec(dllexport)
-#else
-#define QLX_API __declspec(dllimport)
-#endif
+/// The companion library: the host's registry key, its message texts and its projects. All of it is
+/// used on one thread; nothing throws.
+#include "qlx/MMSGFunction.h"
+#include "qlx/MRegistry.h"
+#include "qlx/TranslateUtil.h"

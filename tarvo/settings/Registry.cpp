@@ -5,6 +5,8 @@
 #include "tarvo/settings/HostApp.h"
 
 #include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <type_traits>
 
@@ -18,35 +20,13 @@ struct KeyCloser
 };
 using CKey = std::unique_ptr<std::remove_pointer_t<HKEY>, KeyCloser>;
 
-struct RootRow
-{
-    const wchar_t* pszName;
-    registry::Root root;
-};
-
-constexpr RootRow aRoots[] = {
-    {L"HKEY_CLASSES_ROOT", registry::Root::classes_root},
-    {L"HKEY_CURRENT_USER", registry::Root::current_user},
-    {L"HKEY_LOCAL_MACHINE", registry::Root::local_machine},
-    {L"HKEY_USERS", registry::Root::users},
-    {L"HKEY_CURRENT_CONFIG", registry::Root::current_config},
-};
-
-HKEY FindRoot(const CString& strName)
-{
-    for (const RootRow& row : aRoots)
-        if (strName.CompareNoCase(row.pszName) == 0)
-            return registry::root(row.root);
-    return nullptr;
-}
-
 /// The component of \p path that begins at \p pos; pos then stands behind the backslash that ends it.
-CString NextComponent(std::wstring_view path, std::size_t& pos)
+std::wstring NextComponent(std::wstring_view path, std::size_t& pos)
 {
     const std::size_t end = path.find(L'\\', pos);
-    const std::wstring_view part = path.substr(pos, end - pos);
+    const std::wstring part(path.substr(pos, end - pos));
     pos = end + 1;
-    return CString(part.data(), static_cast<int>(part.size()));
+    return part;
 }
 
 CKey OpenKey(const wchar_t* path, int bReadOnly) { return CKey(CRegistry::GetRegistryKey(path, bReadOnly)); }
@@ -115,14 +95,15 @@ HKEY CRegistry::GetRegistryKey(const wchar_t* path, int bReadOnly)
     if (strPath.back() != L'\\')
         strPath += L'\\';
     std::size_t pos = 0;
-    const HKEY hRoot = FindRoot(NextComponent(strPath, pos));
-    if (!hRoot || pos == strPath.size())
+    const std::optional<registry::Root> root = registry::root_by_name(NextComponent(strPath, pos));
+    if (!root || pos == strPath.size())
         return nullptr;
-    CKey key(hRoot); // closing a predefined key is harmless
+    CKey key(registry::root(*root)); // closing a predefined key is harmless
     while (key && pos < strPath.size())
     {
-        const CString strName = NextComponent(strPath, pos);
-        key.reset(bReadOnly ? registry::open(key.get(), strName) : registry::create(key.get(), strName));
+        const std::wstring strName = NextComponent(strPath, pos);
+        key.reset(bReadOnly ? registry::open(key.get(), strName.c_str())
+                            : registry::create(key.get(), strName.c_str()));
     }
     return key.release();
 }

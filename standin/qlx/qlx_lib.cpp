@@ -1,1 +1,0 @@
-#include "qlx/qlx_lib.h"
