@@ -1,0 +1,274 @@
+#include "afxdlg.h"
+#include "afxmsgmap.h"
+#include "afxstate.h"
+
+IMPLEMENT_DYNAMIC(CDialog, CWnd)
+
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+ON_COMMAND(IDOK, &CDialog::OnOK)
+ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+END_MESSAGE_MAP()
+
+CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd) : m_pParentWnd(pParentWnd)
+{
+    SetTemplateName(lpszTemplateName);
+}
+
+CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd) : m_nIDHelp(nIDTemplate), m_pParentWnd(pParentWnd)
+{
+    SetTemplateName(MAKEINTRESOURCEW(nIDTemplate));
+}
+
+CDialog::~CDialog()
+{
+    if (m_hWnd && FromHandlePermanent(m_hWnd) == this)
+        CDialog::DestroyWindow();
+}
+
+void CDialog::SetTemplateName(LPCTSTR lpszTemplateName)
+{
+    if (IS_INTRESOURCE(lpszTemplateName))
+    {
+        m_lpszTemplateName = lpszTemplateName;
+        m_strTemplateName.Empty();
+        return;
+    }
+    m_strTemplateName = lpszTemplateName;
+    m_lpszTemplateName = m_strTemplateName;
+}
+
+BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
+{
+    SetTemplateName(lpszTemplateName);
+    if (IS_INTRESOURCE(m_lpszTemplateName) && m_nIDHelp == 0)
+        m_nIDHelp = LOWORD(m_lpszTemplateName);
+    return CreateDlg(m_lpszTemplateName, pParentWnd ? pParentWnd : AfxGetMainWnd());
+}
+
+BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit)
+{
+    m_lpDialogInit = lpDialogInit;
+    return CreateDlgIndirect(lpDialogTemplate, pParentWnd ? pParentWnd : AfxGetMainWnd(),
+                             AfxGetInstanceHandle());
+}
+
+BOOL CDialog::CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd)
+{
+    const auto* pTemplate = static_cast<LPCDLGTEMPLATE>(::LockResource(hDialogTemplate));
+    return pTemplate ? CreateIndirect(pTemplate, pParentWnd) : FALSE;
+}
+
+BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, void* lpDialogInit)
+{
+    if (!m_pParentWnd)
+        m_pParentWnd = pParentWnd;
+    m_lpDialogTemplate = lpDialogTemplate;
+    m_lpDialogInit = lpDialogInit;
+    return TRUE;
+}
+
+BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd)
+{
+    if (!m_pParentWnd)
+        m_pParentWnd = pParentWnd;
+    m_hDialogTemplate = hDialogTemplate;
+    return TRUE;
+}
+
+namespace
+{
+/// Which window a modal dialog belongs to and which windows it keeps from the user while it runs.
+class ModalOwner
+{
+public:
+    explicit ModalOwner(HWND hParent)
+    {
+        const bool bGiven = hParent != nullptr;
+        if (!bGiven)
+            hParent = CWnd::SafeHandle(AfxGetMainWnd());
+        while (hParent && (::GetWindowLongPtrW(hParent, GWL_STYLE) & WS_CHILD))
+            hParent = ::GetParent(hParent);
+        HWND hTop = hParent;
+        for (HWND hWnd = hParent; hWnd; hWnd = ::GetParent(hWnd))
+            hTop = hWnd;
+        if (!bGiven && hParent)
+            hParent = ::GetLastActivePopup(hParent);
+        m_hOwner = hParent;
+        Disable(m_bOwner, hParent);
+        m_hTop = hTop != hParent ? hTop : nullptr;
+        Disable(m_bTop, m_hTop);
+    }
+    ~ModalOwner() { Release(); }
+    ModalOwner(const ModalOwner&) = delete;
+    ModalOwner& operator=(const ModalOwner&) = delete;
+
+    HWND Handle() const { return m_hOwner; }
+    void Release()
+    {
+        if (std::exchange(m_bOwner, false))
+            ::EnableWindow(m_hOwner, TRUE);
+        if (std::exchange(m_bTop, false))
+            ::EnableWindow(m_hTop, TRUE);
+    }
+
+private:
+    static void Disable(bool& bDone, HWND hWnd)
+    {
+        bDone = hWnd && hWnd != ::GetDesktopWindow() && ::IsWindowEnabled(hWnd);
+        if (bDone)
+            ::EnableWindow(hWnd, FALSE);
+    }
+
+    HWND m_hOwner;
+    HWND m_hTop;
+    bool m_bOwner = false; // disabled by this object
+    bool m_bTop = false;
+};
+} // namespace
+
+LPCDLGTEMPLATE CDialog::LockTemplate(HINSTANCE& hInst)
+{
+    hInst = AfxGetResourceHandle();
+    if (m_lpDialogTemplate)
+        return m_lpDialogTemplate;
+    HGLOBAL hTemplate = m_hDialogTemplate;
+    if (!hTemplate && m_lpszTemplateName)
+    {
+        hInst = AfxFindResourceHandle(m_lpszTemplateName, RT_DIALOG);
+        const HRSRC hResource = ::FindResourceW(hInst, m_lpszTemplateName, RT_DIALOG);
+        hTemplate = hResource ? ::LoadResource(hInst, hResource) : nullptr;
+    }
+    return static_cast<LPCDLGTEMPLATE>(hTemplate ? ::LockResource(hTemplate) : nullptr);
+}
+
+INT_PTR CDialog::DoModal()
+{
+    HINSTANCE hInst = nullptr;
+    const LPCDLGTEMPLATE pTemplate = LockTemplate(hInst);
+    if (!pTemplate)
+        return -1;
+    const AfxLifeLine life(this);
+    ModalOwner owner(SafeHandle(m_pParentWnd));
+    m_nModalResult = -1;
+    int nResult = -1;
+    if (!CreateDlgIndirect(pTemplate, FromHandle(owner.Handle()), hInst))
+        return life.IsAlive() ? m_nModalResult : -1;
+    nResult = RunModalLoop((GetStyle() & DS_NOIDLEMSG) ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE);
+    if (!life.IsAlive())
+        return nResult;
+    // Hidden first and the owner enabled before it goes: else the system activates another program.
+    if (m_hWnd)
+        SetWindowPos(nullptr, 0, 0, 0, 0,
+                     SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+    owner.Release();
+    if (m_hWnd && owner.Handle() && ::GetActiveWindow() == m_hWnd)
+        ::SetActiveWindow(owner.Handle());
+    DestroyWindow();
+    return nResult;
+}
+
+INT_PTR AfxWndAccess::InitDialog(CWnd* pWnd, const MSG& msg)
+{
+    auto* pDlg = DYNAMIC_DOWNCAST(CDialog, pWnd);
+    if (!pDlg)
+        return TRUE;
+    const AfxLifeLine life(pDlg);
+    CRect before;
+    pDlg->GetWindowRect(before);
+    bool bDone = false;
+    const LRESULT lResult = AfxGuardedCall(msg, [&]() -> LRESULT {
+        pDlg->PreInitDialog();
+        const BOOL bFocus = pDlg->OnInitDialog();
+        bDone = true;
+        return bFocus;
+    });
+    if (!life.IsAlive() || pDlg->m_hWnd != msg.hwnd)
+        return FALSE;
+    if (!bDone) // half a dialog helps nobody
+    {
+        pDlg->EndModalLoop(-1);
+        return FALSE;
+    }
+    CRect after;
+    pDlg->GetWindowRect(after);
+    if (before == after && !(pDlg->GetStyle() & (WS_VISIBLE | WS_CHILD)) && pDlg->CheckAutoCenter())
+        pDlg->CenterWindow();
+    return lResult;
+}
+
+BOOL CDialog::CheckAutoCenter()
+{
+    HINSTANCE hInst = nullptr;
+    const LPCDLGTEMPLATE pTemplate = LockTemplate(hInst);
+    if (!pTemplate)
+        return TRUE;
+    // The extended form begins with 1 and -1 and has style and place further back.
+    struct Extended
+    {
+        WORD dlgVer, signature;
+        DWORD helpID, exStyle, style;
+        WORD cDlgItems;
+        short x, y;
+    };
+    const auto* pExtended = reinterpret_cast<const Extended*>(pTemplate);
+    const bool bExtended = pExtended->signature == 0xFFFF;
+    const DWORD dwStyle = bExtended ? pExtended->style : pTemplate->style;
+    const CPoint place = bExtended ? CPoint(pExtended->x, pExtended->y) : CPoint(pTemplate->x, pTemplate->y);
+    return !(dwStyle & (DS_CENTER | DS_CENTERMOUSE | DS_ABSALIGN)) && place == CPoint(0, 0);
+}
+
+BOOL CDialog::OnInitDialog()
+{
+    BOOL bFilled = TRUE;
+    if (m_lpDialogInit)
+        bFilled = ExecuteDlgInit(m_lpDialogInit, UINT_MAX);
+    else if (m_lpszTemplateName)
+        bFilled = ExecuteDlgInit(m_lpszTemplateName);
+    if (!bFilled || !UpdateData(FALSE))
+    {
+        EndDialog(-1);
+        return FALSE;
+    }
+    return TRUE;
+}
+
+void CDialog::EndDialog(int nResult)
+{
+    if (!m_hWnd)
+        return;
+    if (m_nFlags & (WF_MODALLOOP | WF_CONTINUEMODAL))
+        EndModalLoop(nResult);
+    ::EndDialog(m_hWnd, nResult);
+}
+
+void CDialog::OnOK()
+{
+    if (UpdateData(TRUE))
+        EndDialog(IDOK);
+}
+
+void CDialog::OnCancel() { EndDialog(IDCANCEL); }
+
+BOOL CDialog::PreTranslateMessage(MSG* pMsg)
+{
+    return CWnd::PreTranslateMessage(pMsg) || PreTranslateInput(pMsg);
+}
+
+namespace
+{
+/// Commands of menus; below are the controls' own numbers, and from 0xF000 the system's.
+bool IsMenuCommand(UINT nID) { return (nID & 0x8000) != 0 && nID < 0xF000; }
+} // namespace
+
+BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
+{
+    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
+        return TRUE;
+    if ((nCode != CN_COMMAND && nCode != CN_UPDATE_COMMAND_UI) || !IsMenuCommand(nID))
+        return FALSE;
+    CWnd* pOwner = GetParent();
+    if (pOwner && pOwner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
+        return TRUE;
+    CWinThread* pThread = AfxGetThread();
+    return pThread && pThread->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}

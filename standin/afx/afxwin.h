@@ -1,0 +1,15 @@
+#pragma once
+
+/// The framework's windows: everything that a window program includes.
+
+#include <afx.h>
+
+#include "afxapp.h"
+#include "afxctrl.h"
+#include "afxdc.h"
+#include "afxdlg.h"
+#include "afxgdi.h"
+#include "afxmenu.h"
+#include "afxmsgmap.h"
+#include "afxrect.h"
+#include "afxwnd.h"
