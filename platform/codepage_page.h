@@ -12,8 +12,9 @@ struct Page
 {
     bool double_byte;
     ByteSet leads;
-    /// Of a single-byte page 256 units. Of a double-byte page 65,536, by first | second << 8 as two bytes
-    /// are loaded at once, and for a first byte that is no lead byte the same unit whatever the second is.
+    /// Two bytes are always looked up at once, by first | second << 8. Of a double-byte page the unit of
+    /// the character that begins with first, whatever second is if first is no lead byte: 65,536 units. Of
+    /// a single-byte page the units of both: 65,536 pairs.
     std::unique_ptr<std::uint16_t[]> units;
     /// By unit: the one byte, or first | second << 8 (no second byte is 0).
     std::unique_ptr<std::uint16_t[]> bytes;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <mutex>
 #include <vector>
 
@@ -61,6 +62,16 @@ void unpack_double_byte(const std::vector<std::uint8_t>& leads, const std::vecto
             page.units[leads[row] | second << 8] = units[256 + 256 * row + second];
 }
 
+void unpack_single_byte(const std::vector<std::uint16_t>& units, Page& page)
+{
+    page.units = std::make_unique<std::uint16_t[]>(2 * all_units);
+    for (std::size_t i = 0; i < all_units; ++i)
+    {
+        page.units[2 * i] = units[i & 0xFF];
+        page.units[2 * i + 1] = units[i >> 8];
+    }
+}
+
 void unpack_encoder(const PackedPage& packed, const std::vector<std::uint8_t>& leads,
                     const std::vector<std::uint16_t>& units, Page& page)
 {
@@ -100,16 +111,21 @@ Page unpack_page(const PackedPage& packed)
         unpack_double_byte(leads, units, page);
     }
     else
-    {
-        page.units = std::make_unique<std::uint16_t[]>(256);
-        std::copy_n(units.begin(), 256, page.units.get());
-    }
+        unpack_single_byte(units, page);
     unpack_encoder(packed, leads, units, page);
     return page;
 }
 
 template <class Unit>
 using Decoding = Progress<std::uint8_t, Unit>;
+
+void put_pair(const std::uint16_t* pair, char16_t* out) { std::memcpy(out, pair, 2 * sizeof *pair); }
+
+void put_pair(const std::uint16_t* pair, wchar_t* out)
+{
+    out[0] = static_cast<wchar_t>(pair[0]);
+    out[1] = static_cast<wchar_t>(pair[1]);
+}
 
 template <class Unit>
 Decoding<Unit> decode_single(const Page& page, Decoding<Unit> at, const std::uint8_t* stop)
@@ -119,13 +135,17 @@ Decoding<Unit> decode_single(const Page& page, Decoding<Unit> at, const std::uin
     for (; stop - p >= block_size; p += block_size, out += block_size)
     {
         if (Block(p).ascii())
+        {
             widen_block(p, out);
-        else
-            for (std::ptrdiff_t i = 0; i < block_size; ++i)
-                out[i] = static_cast<Unit>(units[p[i]]);
+            continue;
+        }
+        for (std::ptrdiff_t i = 0; i < block_size; i += 2)
+        {
+            put_pair(units + 2 * (p[i] | p[i + 1] << 8), out + i);
+        }
     }
     while (p < stop)
-        *out++ = static_cast<Unit>(units[*p++]);
+        *out++ = static_cast<Unit>(units[2 * *p++]);
     return {p, out};
 }
 
@@ -178,6 +198,9 @@ template <class Unit>
 Decoding<Unit> decode_double(const Page& page, Decoding<Unit> at, const std::uint8_t* stop,
                              const std::uint8_t* end)
 {
+    // Copied, so that no store through out can be taken for a change of it.
+    const ByteSet lead_set = page.leads;
+    const std::uint16_t* const units = page.units.get();
     // One byte more than the block, which the last character may need.
     while (stop - at.in >= block_size && end - at.in > block_size)
     {
@@ -197,10 +220,10 @@ Decoding<Unit> decode_double(const Page& page, Decoding<Unit> at, const std::uin
         }
         // Walking from lead byte to lead byte would wait for each byte to be loaded. So the places where
         // characters begin are found all at once, and the loads depend on nothing.
-        const std::uint64_t leads = true_leads(block.in(page.leads));
+        const std::uint64_t leads = true_leads(block.in(lead_set));
         const std::uint64_t begins = ~(leads << 1);
         const std::size_t count = count_bits(begins);
-        decode_at(page.units.get(), p, begins, count, at.out);
+        decode_at(units, p, begins, count, at.out);
         at = {p + block_size + (leads >> 63), at.out + count};
     }
     return decode_one_by_one(page, at, stop, end);

@@ -10,4 +10,9 @@ namespace platform::codepage
 template <class Unit>
 Progress<std::uint8_t, Unit> decode_utf8_blocks(Progress<std::uint8_t, Unit> at, const std::uint8_t* stop,
                                                 const std::uint8_t* end);
+
+/// Encodes 16 units at a time as long as none of them is a surrogate. Stops at the first that is one, or
+/// when less is left before \p stop or too little behind it.
+template <class Unit>
+Progress<Unit, char> encode_utf8_blocks(Progress<Unit, char> at, const Unit* stop, const Unit* end);
 } // namespace platform::codepage

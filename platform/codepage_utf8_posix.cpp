@@ -112,9 +112,8 @@ Progress<Unit, char> encode_utf8(Progress<Unit, char> at, const Unit* stop, cons
 {
     while (at.in < stop)
     {
+        at = encode_utf8_blocks(at, stop, end);
         const Unit* const piece = at.in + std::min<std::ptrdiff_t>(16, stop - at.in);
-        if (piece - at.in == 16 && narrow16(at.in, at.out))
-            at = {piece, at.out + 16};
         while (at.in < piece)
         {
             const char32_t c = read_character(at.in, end);
