@@ -1,0 +1,9 @@
+#pragma once
+
+#include "cli/command.h"
+
+/// One file per group: each gives its rows of the command table.
+namespace cli
+{
+std::span<const Command> ini_commands();
+} // namespace cli
