@@ -55,9 +55,9 @@ std::string file_path()
         const char* value = std::getenv(name);
         return std::string(value ? value : "");
     };
-    const std::string named = text("TARVO_REGISTRY"), config = text("XDG_CONFIG_HOME"), home = text("HOME");
-    if (!named.empty())
+    if (std::string named = text("TARVO_REGISTRY"); !named.empty())
         return named;
+    const std::string config = text("XDG_CONFIG_HOME"), home = text("HOME");
     if (config.starts_with('/')) // by the convention of that variable, any other text is ignored
         return config + "/tarvo/registry";
     return home.empty() ? std::string() : home + "/.config/tarvo/registry";

@@ -3,6 +3,8 @@
 #include "platform/locale.h"
 #include "tarvo/intl/LocaleRules.h"
 
+#include <string>
+
 namespace
 {
 constexpr const wchar_t* pszEnglish = L"0409";
@@ -42,7 +44,11 @@ CString CLocaleLib::csLocale = CLocaleLib::GetSystemLocale();
 int CLocaleLib::bKorean = LocaleRules::IsKorean(CLocaleLib::csLocale);
 int CLocaleLib::bKoreanUILanguage = LocaleRules::IsKorean(CLocaleLib::GetUILanguage());
 
-CString CLocaleLib::GetSystemLocale() { return platform::locale::system_language().c_str(); }
+CString CLocaleLib::GetSystemLocale()
+{
+    const std::wstring language = platform::locale::system_language();
+    return CString(language.c_str());
+}
 
 unsigned short CLocaleLib::GetUserDefaultUILanguage() { return platform::locale::user_interface_language(); }
 
