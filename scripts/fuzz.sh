@@ -1,0 +1,44 @@
+#!/bin/bash
+# fuzz.sh SECONDS [TARGET]: searches with every fuzz target, or one, for SECONDS each, from fuzz/seeds/TARGET.
+# Exit status 1 on a finding, whose file is kept in build/fuzz/findings/TARGET and named. What a search learned is
+# kept in build/fuzz/corpus/TARGET, and the next one goes on from there.
+set -uo pipefail
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cd "$root" || exit 1
+. scripts/steps.sh
+
+if [ $# -lt 1 ] || [ $# -gt 2 ] || ! [[ $1 =~ ^[1-9][0-9]*$ ]]; then
+  sed -n '2,/^set/s/^# \{0,1\}//p' "${BASH_SOURCE[0]}" >&2
+  exit 2
+fi
+seconds=$1
+
+scripts/setup.sh fuzz || exit 1
+mkdir -p build/fuzz
+step "configuring" build/fuzz/configure.log cmake --preset fuzz || exit 1
+step "building" build/fuzz/build.log cmake --build --preset fuzz -j "$jobs" || exit 1
+
+programs=(build/fuzz/bin/fuzz_*)
+[ $# -eq 1 ] || programs=("build/fuzz/bin/fuzz_$2")
+if [ ! -x "${programs[0]}" ]; then
+  echo "fuzz.sh: no such target; there are: $(ls build/fuzz/bin | sed -n 's/^fuzz_//p' | tr '\n' ' ')" >&2
+  exit 2
+fi
+
+status=0
+for program in "${programs[@]}"; do
+  target=${program##*/fuzz_}
+  findings=build/fuzz/findings/$target corpus=build/fuzz/corpus/$target log=build/fuzz/$target.log
+  mkdir -p "$findings" "$corpus"
+  touch "$findings/.started"
+  if ! step "$target: searching for $seconds s" "$log" "$program" -max_total_time="$seconds" -timeout=20 \
+    -rss_limit_mb=4096 -print_final_stats=1 -artifact_prefix="$findings/" "$corpus" "fuzz/seeds/$target"; then
+    status=1
+    echo "finding: $(find "$findings" -type f -newer "$findings/.started" ! -name .started | tr '\n' ' ')"
+    continue
+  fi
+  sed -n 's/^stat::number_of_executed_units: */   runs: /p' "$log"
+done
+[ "$status" -eq 0 ] && echo "no findings"
+exit "$status"
