@@ -5,20 +5,19 @@
 /// Letter case and white space of single UTF-16 units, the same on every platform and in every locale.
 ///
 /// Case: two units are a pair when the Unicode character database makes each the other's simple
-/// mapping. Letters whose mapping does not lead back keep their form (dotless and dotted i of Turkish,
-/// sharp s, the Kelvin and Angstrom signs, title-case digraphs), with one exception that Greek text
-/// needs: final sigma has the capital sigma. Characters beyond U+FFFF keep their form.
+/// mapping, as the system's ordinal comparison has it. Letters whose mapping does not lead back keep their
+/// form (dotless and dotted i of Turkish, sharp s, final sigma, the Kelvin and Angstrom signs, the
+/// digraphs that begin a title), and so do characters beyond U+FFFF.
 AFX_API wchar_t afxUpperChar(wchar_t ch) noexcept;
 AFX_API wchar_t afxLowerChar(wchar_t ch) noexcept;
 
-/// What two units must have in common to be equal without regard to case: the lower form of their
-/// upper form.
+/// What two units have in common that are equal without regard to case: the small letter.
 inline wchar_t afxFoldChar(wchar_t ch) noexcept
 {
     const auto n = static_cast<unsigned>(ch);
     if (n < 0x80)
         return n - L'A' < 26u ? static_cast<wchar_t>(n + 32) : ch;
-    return afxLowerChar(afxUpperChar(ch));
+    return afxLowerChar(ch);
 }
 
 /// White space: U+0009 to U+000D, U+0020, U+0085, U+00A0, U+1680, U+2000 to U+200A, U+2028, U+2029,

@@ -139,8 +139,11 @@ public:
     /// A null text is "(null)"; %n stores nothing; an unknown conversion stands as it is written.
     /// Arguments may be texts of this string itself.
     void Format(PCXSTR pszFormat, ...);
+    /// With the resource string \p nFormatID as the format; throws CInvalidArgException when it is missing.
+    void Format(UINT nFormatID, ...);
     void FormatV(PCXSTR pszFormat, std::va_list args);
     void AppendFormat(PCXSTR pszFormat, ...);
+    void AppendFormat(UINT nFormatID, ...);
     void AppendFormatV(PCXSTR pszFormat, std::va_list args);
 
     /// Below, equal to or above zero, as the first differing character is (compared without sign); the
@@ -214,7 +217,7 @@ public:
     void Truncate(int nNewLength);
 
     /// The resource string \p nID, from the module that holds the program's resources or \p hInstance.
-    /// FALSE when there is none, and always where modules carry no resources.
+    /// FALSE, with an empty text, when there is none, and always where modules carry no resources.
     BOOL LoadString(UINT nID);
     BOOL LoadString(HINSTANCE hInstance, UINT nID);
 

@@ -528,6 +528,30 @@ void CStringT<T>::AppendFormat(PCXSTR pszFormat, ...)
     va_end(args);
 }
 
+template <class T>
+void CStringT<T>::Format(UINT nFormatID, ...)
+{
+    CStringT strFormat;
+    if (!strFormat.LoadString(nFormatID))
+        ThrowInvalidArg();
+    std::va_list args;
+    va_start(args, nFormatID);
+    FormatV(strFormat, args);
+    va_end(args);
+}
+
+template <class T>
+void CStringT<T>::AppendFormat(UINT nFormatID, ...)
+{
+    CStringT strFormat;
+    if (!strFormat.LoadString(nFormatID))
+        ThrowInvalidArg();
+    std::va_list args;
+    va_start(args, nFormatID);
+    AppendFormatV(strFormat, args);
+    va_end(args);
+}
+
 template AFX_API void CStringT<wchar_t>::FormatV(PCXSTR, std::va_list);
 template AFX_API void CStringT<wchar_t>::AppendFormatV(PCXSTR, std::va_list);
 template AFX_API void CStringT<wchar_t>::Format(PCXSTR, ...);
@@ -536,3 +560,7 @@ template AFX_API void CStringT<char>::FormatV(PCXSTR, std::va_list);
 template AFX_API void CStringT<char>::AppendFormatV(PCXSTR, std::va_list);
 template AFX_API void CStringT<char>::Format(PCXSTR, ...);
 template AFX_API void CStringT<char>::AppendFormat(PCXSTR, ...);
+template AFX_API void CStringT<wchar_t>::Format(UINT, ...);
+template AFX_API void CStringT<wchar_t>::AppendFormat(UINT, ...);
+template AFX_API void CStringT<char>::Format(UINT, ...);
+template AFX_API void CStringT<char>::AppendFormat(UINT, ...);
