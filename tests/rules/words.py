@@ -6,7 +6,7 @@ import tree
 
 WORDS = [
     (r"\bPart[ ]\d+(\.\d+)?\b", "a reference that readers cannot follow"),
-    (r"\bspecifi[c]ations?\b", "a reference that readers cannot follow"),
+    (r"\bspecifi[c]ation\b", "a reference that readers cannot follow"),
     (r"\bthe[ ]spec\b", "a reference that readers cannot follow"),
     (r"\bissue[ ]#?\d+\b", "a reference that readers cannot follow"),
     (r"(?<![\w.$}~-])/(work|root)(?=/|\b(?!\w))", "a path of one machine"),
