@@ -1,0 +1,159 @@
+// What INI documents are measured against natively: GLib's key files and the standard hash table.
+#include "bench/ini_inputs.h"
+#include "bench/support/data.h"
+#include "tarvo/lang/XIni.h"
+
+#include <benchmark/benchmark.h>
+#include <glib.h>
+#include <malloc.h>
+
+#include <atomic>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <new>
+#include <string>
+#include <unordered_map>
+
+namespace
+{
+std::atomic<long> allocations;
+}
+
+// Counted for the document's own allocations; nothing else runs while they are.
+void* operator new(std::size_t size)
+{
+    allocations.fetch_add(1, std::memory_order_relaxed);
+    if (void* const p = std::malloc(size != 0 ? size : 1))
+        return p;
+    throw std::bad_alloc();
+}
+void operator delete(void* p) noexcept { std::free(p); }
+void operator delete(void* p, std::size_t) noexcept { std::free(p); }
+
+namespace
+{
+struct FreeKeyFile
+{
+    void operator()(GKeyFile* file) const { g_key_file_free(file); }
+};
+using KeyFile = std::unique_ptr<GKeyFile, FreeKeyFile>;
+
+KeyFile load_key_file(const std::string& text)
+{
+    KeyFile file(g_key_file_new());
+    if (!g_key_file_load_from_data(file.get(), text.data(), text.size(), G_KEY_FILE_NONE, nullptr))
+    {
+        std::fputs("GLib does not read the generated language file\n", stderr);
+        std::exit(1);
+    }
+    return file;
+}
+
+void glib_load_utf8(benchmark::State& state)
+{
+    const std::string text = bench::data_bytes("lang.utf8.ini");
+    for (auto _ : state)
+        benchmark::DoNotOptimize(load_key_file(text).get());
+}
+
+void glib_load_cp949(benchmark::State& state)
+{
+    const std::string bytes = bench::data_bytes("lang.cp949.ini");
+    for (auto _ : state)
+    {
+        gsize size = 0;
+        const std::unique_ptr<char, decltype(&g_free)> text(
+            g_convert(bytes.data(), static_cast<gssize>(bytes.size()), "UTF-8", "CP949", nullptr, &size,
+                      nullptr),
+            g_free);
+        KeyFile file(g_key_file_new());
+        if (!text || !g_key_file_load_from_data(file.get(), text.get(), size, G_KEY_FILE_NONE, nullptr))
+            state.SkipWithError("iconv or GLib refused the file");
+    }
+}
+
+const std::vector<std::pair<std::string, std::string>>& narrow_keys()
+{
+    static const auto keys = bench::data_pairs("lang.keys.tsv");
+    return keys;
+}
+
+void glib_look_up(benchmark::State& state)
+{
+    const KeyFile file = load_key_file(bench::data_bytes("lang.utf8.ini"));
+    std::size_t at = 0;
+    for (auto _ : state)
+    {
+        const auto& [section, key] = narrow_keys()[at];
+        char* const value = g_key_file_get_value(file.get(), section.c_str(), key.c_str(), nullptr);
+        benchmark::DoNotOptimize(value);
+        g_free(value);
+        at = at + 1 == narrow_keys().size() ? 0 : at + 1;
+    }
+}
+
+// The hash table gets its keys ready made, section and key in one text.
+void hash_look_up(benchmark::State& state)
+{
+    XIni ini;
+    const std::string bytes = bench::data_bytes("lang.utf16.ini");
+    ini.OpenMemory(reinterpret_cast<const unsigned char*>(bytes.data()), static_cast<int>(bytes.size()));
+    std::unordered_map<std::wstring, std::wstring> table;
+    std::vector<std::wstring> names;
+    for (const auto& [section, key] : bench::wide_keys("lang.keys.tsv"))
+    {
+        names.push_back(section + L'\n' + key);
+        table[names.back()] = ini.GetStr(section.c_str(), key.c_str(), L"").GetString();
+    }
+    std::size_t at = 0;
+    for (auto _ : state)
+    {
+        const std::wstring value = table.find(names[at])->second;
+        benchmark::DoNotOptimize(value.data());
+        at = at + 1 == names.size() ? 0 : at + 1;
+    }
+}
+
+void glib_save(benchmark::State& state)
+{
+    const KeyFile file = load_key_file(bench::data_bytes("lang.utf8.ini"));
+    for (auto _ : state)
+    {
+        gsize size = 0;
+        char* const text = g_key_file_to_data(file.get(), &size, nullptr);
+        std::FILE* const out = std::fopen("ini_bench.saved.glib.ini", "wb");
+        if (out == nullptr || std::fwrite(text, 1, size, out) != size)
+            state.SkipWithError("the folder at hand cannot be written");
+        if (out != nullptr)
+            std::fclose(out);
+        g_free(text);
+    }
+}
+
+// What one loaded document holds, as a share of its decoded text, and the allocations for each key.
+void ini_held(benchmark::State& state)
+{
+    const std::string bytes = bench::data_bytes("lang.utf16.ini");
+    for (auto _ : state)
+    {
+        const long allocationsBefore = allocations;
+        const struct mallinfo2 before = mallinfo2();
+        XIni ini;
+        ini.OpenMemory(reinterpret_cast<const unsigned char*>(bytes.data()), static_cast<int>(bytes.size()));
+        const struct mallinfo2 after = mallinfo2();
+        const double held = static_cast<double>(after.uordblks + after.hblkhd) -
+                            static_cast<double>(before.uordblks + before.hblkhd);
+        state.counters["held_of_text"] = held / static_cast<double>(bytes.size() - 2);
+        state.counters["allocations_per_key"] =
+            static_cast<double>(allocations - allocationsBefore) / static_cast<double>(narrow_keys().size());
+    }
+}
+
+BENCHMARK(glib_load_utf8);
+BENCHMARK(glib_load_cp949);
+BENCHMARK(glib_look_up);
+BENCHMARK(hash_look_up);
+BENCHMARK(glib_save);
+BENCHMARK(ini_held);
+} // namespace
