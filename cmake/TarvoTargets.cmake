@@ -19,11 +19,9 @@ function(tarvo_options target)
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    target_compile_options(${target} PRIVATE -Wall -Wextra -Werror -Wshadow=local)
-  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wshadow=local $<$<BOOL:${TARVO_WERROR}>:-Werror>)
     # gcc 12 finds an overlap in any "literal" + string when it optimises (its bug 105651).
     target_compile_options(${target} PRIVATE -Wno-restrict)
-  endif()
   else()
     # clang builds the fuzz targets only; what it has to say is heard through clang-tidy.
     target_compile_options(${target} PRIVATE -Wall -Wextra)

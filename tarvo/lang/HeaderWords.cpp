@@ -4,67 +4,65 @@
 
 #include <algorithm>
 
+namespace headertext
+{
 namespace
 {
-/// UTF-16LE bytes as units.
-struct WideUnits
+bool EndsWord(char16_t unit)
 {
-    const unsigned char* data;
-    wchar_t operator[](std::size_t at) const
-    {
-        return static_cast<wchar_t>(data[2 * at] | static_cast<unsigned>(data[2 * at + 1]) << 8);
-    }
-};
-
-/// Bytes as units of the same value.
-struct ByteUnits
-{
-    std::string_view bytes;
-    wchar_t operator[](std::size_t at) const { return static_cast<unsigned char>(bytes[at]); }
-};
-
-constexpr char endOfTextFile = 0x1A;
+    // Letters, digits and signs are told by one comparison.
+    if (unit - 0x21u < 0x5Eu)
+        return false;
+    return unit == u'\0' || afxIsSpace(static_cast<wchar_t>(unit));
+}
 } // namespace
 
-template <class Units>
-int CThreeWords::ReadWords(const Units& units, std::size_t at, std::size_t count)
+Words ReadWords(units::view text)
 {
-    for (int number = 0; number < 3; ++number)
+    Words words;
+    const char16_t* at = text.data();
+    const char16_t* const end = at + text.size();
+    for (units::view& word : words.word)
     {
-        std::wstring& word = m_words[number];
-        word.clear();
-        while (at < count && afxIsSpace(units[at]))
+        while (at != end && *at != u'\0' && EndsWord(*at))
             ++at;
-        if (at >= count || units[at] == L'\0')
-            return number;
-        for (wchar_t c; at < count && (c = units[at]) != L'\0' && !afxIsSpace(c); ++at)
-            if (word.size() < m_most)
-                word += c;
+        if (at == end || *at == u'\0')
+            break;
+        const char16_t* const begin = at;
+        while (at != end && !EndsWord(*at))
+            ++at;
+        word = {begin, std::min(static_cast<std::size_t>(at - begin), kMostWord)};
+        ++words.count;
     }
-    return 3;
+    return words;
 }
 
-int CHeaderWords::Read() { return m_read = ReadWords(WideUnits{m_data}, m_at, m_count); }
-
-bool CHeaderWords::SkipToDirective()
+bool CDirectives::Next(Words& words)
 {
-    const WideUnits units{m_data};
-    m_at = std::min(m_at + static_cast<std::size_t>(m_read), m_count);
-    while (m_at < m_count && units[m_at] != L'#')
-        ++m_at;
-    return m_at < m_count;
-}
-
-bool CHeaderLines::Next()
-{
-    if (m_bytes.empty() || m_bytes.front() == endOfTextFile)
+    if (m_bAtEnd)
         return false;
-    std::string_view rest = m_bytes.substr(0, m_most);
-    const std::size_t end = rest.find_first_of(std::string_view("\n\x1A", 2));
-    const bool isFed = end != std::string_view::npos && rest[end] == '\n';
-    m_line = rest.substr(0, end);
-    m_bytes.remove_prefix(m_line.size() + (isFed ? 1 : 0));
+    words = ReadWords(m_text);
+    const char16_t* const end = m_text.data() + m_text.size();
+    const char16_t* const from = std::min(m_text.data() + words.count, end);
+    const char16_t* const sign = units::find(from, end, u'#');
+    m_text = {sign, static_cast<std::size_t>(end - sign)};
+    m_bAtEnd = sign == end;
     return true;
 }
 
-int CHeaderLines::Read() { return ReadWords(ByteUnits{m_line}, 0, m_line.size()); }
+bool CHeaderLines::Next(units::view& line)
+{
+    constexpr char kEndOfText = 0x1A;
+    if (m_bytes.empty() || m_bytes.front() == kEndOfText)
+        return false;
+    const std::string_view piece = m_bytes.substr(0, kMostWord);
+    const std::size_t end = std::min(piece.find_first_of("\n\x1A"), piece.size());
+    m_line.resize(end);
+    std::transform(piece.begin(), piece.begin() + static_cast<std::ptrdiff_t>(end), m_line.begin(),
+                   [](char byte) { return static_cast<unsigned char>(byte); });
+    const bool isFed = end < piece.size() && piece[end] == '\n';
+    m_bytes.remove_prefix(end + (isFed ? 1 : 0));
+    line = m_line;
+    return true;
+}
+} // namespace headertext

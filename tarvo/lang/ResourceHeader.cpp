@@ -1,46 +1,78 @@
 #include "tarvo/lang/ResourceHeader.h"
 
 #include "platform/file.h"
-#include "tarvo/lang/HeaderWords.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace
 {
 constexpr std::uint32_t none = 0xFFFFFFFFu;
 constexpr std::uint64_t largestFile = 256u * 1024 * 1024;
-constexpr std::wstring_view defineWord = L"#define";
+constexpr units::view defineWord = u"#define";
 
 struct Mark
 {
-    std::wstring_view text;
+    units::view text;
     CResourceHeader::Kind kind;
-    bool inFiles; ///< header files never had menus of their own kind; their readers pass IDM_ over
+    bool inFiles; ///< IDM_ names of a header file are passed over
 };
 
+/// In the order in which they are looked for.
 constexpr Mark marks[] = {
-    {L"IDC_", CResourceHeader::Control, true},  {L"IDD_", CResourceHeader::Dialog, true},
-    {L"IDR_", CResourceHeader::Resource, true}, {L"ID_", CResourceHeader::Menu, true},
-    {L"IDM_", CResourceHeader::Menu, false},
+    {u"IDC_", CResourceHeader::Control, true},  {u"IDD_", CResourceHeader::Dialog, true},
+    {u"IDR_", CResourceHeader::Resource, true}, {u"ID_", CResourceHeader::Menu, true},
+    {u"IDM_", CResourceHeader::Menu, false},
 };
 
 struct StandardButton
 {
-    std::wstring_view name;
-    std::wstring_view value;
+    units::view name;
+    units::view value;
 };
 
-constexpr StandardButton standardButtons[] = {{L"IDOK", L"1"}, {L"IDCANCEL", L"2"}, {L"IDCLOSE", L"8"}};
+constexpr StandardButton standardButtons[] = {{u"IDOK", u"1"}, {u"IDCANCEL", u"2"}, {u"IDCLOSE", u"8"}};
 
-std::size_t HashOf(std::wstring_view text)
+/// The mark that comes first in the list, wherever it stands in the name; null when there is none.
+const Mark* FindMark(units::view name, bool fromFile)
 {
-    std::uint64_t hash = 0xCBF29CE484222325u;
-    for (const wchar_t c : text)
-        hash = (hash ^ static_cast<std::uint64_t>(c)) * 0x100000001B3u;
-    return static_cast<std::size_t>(hash ^ (hash >> 32));
+    const Mark* best = std::end(marks);
+    for (std::size_t at = 0; at + 3 <= name.size() && best != std::begin(marks); ++at)
+    {
+        if (name[at] != u'I' || name[at + 1] != u'D')
+            continue;
+        best = std::find_if(std::begin(marks), best, [&](const Mark& mark) {
+            return (mark.inFiles || !fromFile) && name.substr(at).starts_with(mark.text);
+        });
+    }
+    return best == std::end(marks) ? nullptr : best;
 }
 
-CString ToCString(std::wstring_view text) { return {text.data(), static_cast<int>(text.size())}; }
+/// UTF-16LE bytes as units, copied only where they are not aligned as units are.
+class CTextUnits
+{
+public:
+    CTextUnits(const unsigned char* pData, int nChars)
+    {
+        const auto count = static_cast<std::size_t>(std::max(nChars, 0));
+        if (reinterpret_cast<std::uintptr_t>(pData) % alignof(char16_t) == 0)
+        {
+            m_view = {reinterpret_cast<const char16_t*>(pData), count};
+            return;
+        }
+        m_copy.resize(count);
+        std::memcpy(m_copy.data(), pData, count * sizeof(char16_t));
+        m_view = m_copy;
+    }
+    CTextUnits(const CTextUnits&) = delete;
+    CTextUnits& operator=(const CTextUnits&) = delete;
+
+    operator units::view() const { return m_view; }
+
+private:
+    std::u16string m_copy;
+    units::view m_view;
+};
 } // namespace
 
 int CResourceHeader::LoadMemory(const unsigned char* pData, int nChars)
@@ -50,12 +82,10 @@ int CResourceHeader::LoadMemory(const unsigned char* pData, int nChars)
     for (const StandardButton& button : standardButtons)
         Record(All, button.name, button.value);
 
-    CHeaderWords words(pData, static_cast<std::size_t>(std::max(nChars, 0)), MaxWord);
-    do
-    {
-        if (words.Read() == 3)
-            TakeDefinition(words.Word(0), words.Word(1), words.Word(2), false);
-    } while (words.SkipToDirective());
+    const CTextUnits text(pData, nChars);
+    headertext::CDirectives directives(text);
+    for (headertext::Words words; directives.Next(words);)
+        TakeDefinition(words, false);
     return 1;
 }
 
@@ -66,10 +96,9 @@ int CResourceHeader::LoadFile(const wchar_t* pszPath)
     const auto bytes = platform::file::read_whole(pszPath, largestFile);
     if (!bytes)
         return 0;
-    CHeaderLines lines(*bytes, MaxWord);
-    while (lines.Next())
-        if (lines.Read() == 3)
-            TakeDefinition(lines.Word(0), lines.Word(1), lines.Word(2), true);
+    headertext::CHeaderLines lines(*bytes);
+    for (units::view line; lines.Next(line);)
+        TakeDefinition(headertext::ReadWords(line), true);
     return 1;
 }
 
@@ -77,31 +106,32 @@ CString CResourceHeader::FirstWord(const unsigned char* pData, int nChars)
 {
     if (pData == nullptr)
         return {};
-    CHeaderWords words(pData, static_cast<std::size_t>(std::max(nChars, 0)), MaxWord);
-    return words.Read() == 0 ? CString() : ToCString(words.Word(0));
+    const CTextUnits text(pData, nChars);
+    return units::to_string(headertext::ReadWords(text).word[0]);
 }
 
-void CResourceHeader::TakeDefinition(std::wstring_view directive, std::wstring_view name,
-                                     std::wstring_view value, bool fromFile)
+void CResourceHeader::TakeDefinition(const headertext::Words& words, bool fromFile)
 {
+    const units::view name = words.word[1];
     // The underscore drops the bookkeeping of resource editors, "_APS_NEXT_CONTROL_VALUE".
-    if (!directive.starts_with(defineWord) || name.starts_with(L'_'))
+    if (words.count != 3 || !words.word[0].starts_with(defineWord) || name.starts_with(u'_'))
         return;
-    for (const Mark& mark : marks)
-        if ((mark.inFiles || !fromFile) && name.find(mark.text) != std::wstring_view::npos)
-            return Record(mark.kind, name, value);
+    if (const Mark* const mark = FindMark(name, fromFile))
+        Record(mark->kind, name, words.word[2]);
 }
 
-void CResourceHeader::Record(Kind kind, std::wstring_view name, std::wstring_view value)
+void CResourceHeader::Record(Kind kind, units::view name, units::view value)
 {
     if (m_values.size() * 2 >= m_slots.size())
-        GrowSlots();
-    std::uint32_t& slot = m_slots[SlotOf(value)];
+        MakeSlots(std::max<std::size_t>(64, m_slots.size() * 4));
+    const std::uint32_t hash = units::hash(value);
+    std::uint32_t& slot = m_slots[SlotOf(value, hash)];
     const auto definition = static_cast<std::uint32_t>(m_definitions.size());
     if (slot == none)
     {
         slot = static_cast<std::uint32_t>(m_values.size());
-        m_values.push_back({Keep(value), static_cast<std::uint32_t>(value.size()), definition, definition});
+        m_values.push_back(
+            {Keep(value), static_cast<std::uint32_t>(value.size()), hash, definition, definition});
     }
     else
     {
@@ -111,85 +141,76 @@ void CResourceHeader::Record(Kind kind, std::wstring_view name, std::wstring_vie
     m_definitions.push_back({Keep(name), static_cast<std::uint32_t>(name.size()), none, kind});
 }
 
-std::uint32_t CResourceHeader::Keep(std::wstring_view text)
+std::uint32_t CResourceHeader::Keep(units::view text)
 {
     const auto at = static_cast<std::uint32_t>(m_text.size());
     m_text += text;
     return at;
 }
 
-std::wstring_view CResourceHeader::TextOf(const Value& value) const
+units::view CResourceHeader::TextOf(const Value& value) const
 {
-    return std::wstring_view(m_text).substr(value.nText, value.nTextLength);
+    return units::view(m_text).substr(value.nText, value.nTextLength);
 }
 
 CString CResourceHeader::NameOf(const Definition& definition) const
 {
-    return ToCString(std::wstring_view(m_text).substr(definition.nName, definition.nNameLength));
+    return units::to_string(units::view(m_text).substr(definition.nName, definition.nNameLength));
 }
 
-std::size_t CResourceHeader::SlotOf(std::wstring_view value) const
+std::size_t CResourceHeader::SlotOf(units::view value, std::uint32_t hash) const
 {
     const std::size_t mask = m_slots.size() - 1;
-    std::size_t slot = HashOf(value) & mask;
-    while (m_slots[slot] != none && TextOf(m_values[m_slots[slot]]) != value)
-        slot = (slot + 1) & mask;
+    std::size_t slot = hash & mask;
+    for (; m_slots[slot] != none; slot = (slot + 1) & mask)
+    {
+        const Value& found = m_values[m_slots[slot]];
+        if (found.nHash == hash && TextOf(found) == value)
+            break;
+    }
     return slot;
 }
 
-void CResourceHeader::GrowSlots()
+void CResourceHeader::MakeSlots(std::size_t count)
 {
-    m_slots.assign(std::max<std::size_t>(64, m_slots.size() * 2), none);
+    m_slots.assign(count, none);
     for (std::size_t i = 0; i < m_values.size(); ++i)
-        m_slots[SlotOf(TextOf(m_values[i]))] = static_cast<std::uint32_t>(i);
+        m_slots[SlotOf(TextOf(m_values[i]), m_values[i].nHash)] = static_cast<std::uint32_t>(i);
 }
 
-const CResourceHeader::Value* CResourceHeader::FindValue(const wchar_t* pszValue) const
+// The definition itself or the next of its value that belongs to the table; none behind the last.
+std::uint32_t CResourceHeader::NextOfKind(std::uint32_t definition, Kind kind) const
+{
+    while (definition != none && kind != All && m_definitions[definition].kind != kind)
+        definition = m_definitions[definition].nNext;
+    return definition;
+}
+
+std::uint32_t CResourceHeader::FirstOfKind(const wchar_t* pszValue, Kind kind) const
 {
     if (pszValue == nullptr || m_slots.empty())
-        return nullptr;
-    const std::uint32_t found = m_slots[SlotOf(pszValue)];
-    return found == none ? nullptr : &m_values[found];
-}
-
-// Calls \p visit with each name of the kind, in order, until it answers false.
-template <class Visitor>
-void CResourceHeader::ForEachName(const Value& value, Kind kind, Visitor visit) const
-{
-    for (std::uint32_t at = value.nFirst; at != none; at = m_definitions[at].nNext)
-        if ((kind == All || m_definitions[at].kind == kind) && !visit(m_definitions[at]))
-            return;
+        return none;
+    const CUnits value(pszValue);
+    const std::uint32_t found = m_slots[SlotOf(value, units::hash(value))];
+    return found == none ? none : NextOfKind(m_values[found].nFirst, kind);
 }
 
 CString CResourceHeader::FindFirst(Kind kind, const wchar_t* pszValue) const
 {
-    CString name;
-    if (const Value* const value = FindValue(pszValue))
-        ForEachName(*value, kind, [&](const Definition& definition) {
-            name = NameOf(definition);
-            return false;
-        });
-    return name;
+    const std::uint32_t first = FirstOfKind(pszValue, kind);
+    return first == none ? CString() : NameOf(m_definitions[first]);
 }
 
 void CResourceHeader::FindNames(Kind kind, const wchar_t* pszValue, CStringArray& arrNames) const
 {
-    if (const Value* const value = FindValue(pszValue))
-        ForEachName(*value, kind, [&](const Definition& definition) {
-            arrNames.Add(NameOf(definition));
-            return true;
-        });
+    for (std::uint32_t at = FirstOfKind(pszValue, kind); at != none;
+         at = NextOfKind(m_definitions[at].nNext, kind))
+        arrNames.Add(NameOf(m_definitions[at]));
 }
 
 bool CResourceHeader::Has(Kind kind, const wchar_t* pszValue) const
 {
-    bool found = false;
-    if (const Value* const value = FindValue(pszValue))
-        ForEachName(*value, kind, [&](const Definition&) {
-            found = true;
-            return false;
-        });
-    return found;
+    return FirstOfKind(pszValue, kind) != none;
 }
 
 std::vector<CResourceHeader::Entry> CResourceHeader::GetTable(Kind kind) const
@@ -198,13 +219,12 @@ std::vector<CResourceHeader::Entry> CResourceHeader::GetTable(Kind kind) const
     for (const Value& value : m_values)
     {
         Entry entry;
-        ForEachName(value, kind, [&](const Definition& definition) {
-            entry.arrNames.push_back(NameOf(definition));
-            return true;
-        });
+        for (std::uint32_t at = NextOfKind(value.nFirst, kind); at != none;
+             at = NextOfKind(m_definitions[at].nNext, kind))
+            entry.arrNames.push_back(NameOf(m_definitions[at]));
         if (entry.arrNames.empty())
             continue;
-        entry.strValue = ToCString(TextOf(value));
+        entry.strValue = units::to_string(TextOf(value));
         table.push_back(std::move(entry));
     }
     std::sort(table.begin(), table.end(),

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "tarvo/export.h"
+#include "tarvo/lang/HeaderWords.h"
 
 #include <afxcoll.h>
 #include <afxstr.h>
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 /// The symbols of a module's resource header: from the number that a running window knows to the names
@@ -64,7 +64,7 @@ public:
     std::vector<Entry> GetTable(Kind kind) const;
 
     /// The longest word, in characters.
-    static constexpr int MaxWord = 1023;
+    static constexpr int MaxWord = static_cast<int>(headertext::kMostWord);
 
 private:
     struct Definition
@@ -78,23 +78,22 @@ private:
     {
         std::uint32_t nText; ///< where the value begins in m_text
         std::uint32_t nTextLength;
+        std::uint32_t nHash;
         std::uint32_t nFirst;
         std::uint32_t nLast;
     };
 
-    void TakeDefinition(std::wstring_view directive, std::wstring_view name, std::wstring_view value,
-                        bool fromFile);
-    void Record(Kind kind, std::wstring_view name, std::wstring_view value);
-    const Value* FindValue(const wchar_t* pszValue) const;
-    std::size_t SlotOf(std::wstring_view value) const;
-    void GrowSlots();
-    std::uint32_t Keep(std::wstring_view text);
-    std::wstring_view TextOf(const Value& value) const;
+    void TakeDefinition(const headertext::Words& words, bool fromFile);
+    void Record(Kind kind, units::view name, units::view value);
+    std::size_t SlotOf(units::view value, std::uint32_t hash) const;
+    void MakeSlots(std::size_t count);
+    std::uint32_t Keep(units::view text);
+    units::view TextOf(const Value& value) const;
     CString NameOf(const Definition& definition) const;
-    template <class Visitor>
-    void ForEachName(const Value& value, Kind kind, Visitor visit) const;
+    std::uint32_t NextOfKind(std::uint32_t definition, Kind kind) const;
+    std::uint32_t FirstOfKind(const wchar_t* pszValue, Kind kind) const;
 
-    std::wstring m_text; ///< names and values, end to end
+    std::u16string m_text; ///< names and values, end to end
     std::vector<Definition> m_definitions;
     std::vector<Value> m_values;
     std::vector<std::uint32_t> m_slots; ///< open addressing: indexes of m_values
