@@ -8,6 +8,7 @@
 #include "afxctrl.h"
 #include "afxdc.h"
 #include "afxdlg.h"
+#include "afxframe.h"
 #include "afxgdi.h"
 #include "afxmenu.h"
 #include "afxmsgmap.h"
