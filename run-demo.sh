@@ -3,7 +3,7 @@
 #   or in the one named, on an invisible screen, and writes a picture of each and index.html into FOLDER
 #   (default build/demo). Prints a line per dialog; exit status 1 when a window did not come up.
 # run-demo.sh --show [--language NAME]: the same program on your display, with its language menu.
-# Languages: English Korean Japanese Chinese Russian. Installs what is missing from Debian's packages.
+# Languages: English Korean Japanese Chinese Russian Global. Installs what is missing from Debian's packages.
 set -uo pipefail
 
 usage() {
