@@ -9,19 +9,25 @@
 ///
 /// Wide text is a sequence of UTF-16 code units on every platform. Where `wchar_t` is wider than 16
 /// bits it still holds one code unit (never above 0xFFFF), so that lengths, orderings and cut-offs are
-/// the same everywhere. The conversions follow the Windows rules for flags 0: invalid bytes become the
-/// page's default character (U+FFFD in UTF-8), unmappable text its best fit or '?'.
+/// the same everywhere. The conversions follow the Windows rules for flags 0, and give the same on every
+/// platform:
+/// - Bytes that are no character become the page's default character ('?', in 932 U+30FB, in UTF-8
+///   U+FFFD). A lead byte takes whatever byte follows with it, a line feed too, but never a NUL.
+/// - A unit that the page has not becomes its best fit (U+FF21 an 'A') or '?', each half of a surrogate
+///   pair by itself. So encoding what was decoded need not give the same bytes.
 ///
 /// Pages: 949, 932, 936, 950, 1250 to 1258, 874, 437, 65001, and 0 for the system's ANSI page. On
-/// Windows every page that the system knows works. Nothing throws but std::bad_alloc.
+/// Windows every other page that the system has works in the forms that return a string. Nothing throws
+/// but std::bad_alloc. The override of the ANSI page belongs to the one thread that the library runs on;
+/// everything else may be called from any thread.
 namespace platform::codepage
 {
 inline constexpr int ansi = 0;
 inline constexpr int utf8 = 65001;
 
 /// The page that 0 stands for in this process: the override if one is set, else the system's.
-/// Natively the system's is chosen by the locale's language as Windows would choose it (ko 949, ja 932,
-/// zh_CN 936, zh_TW 950, ru 1251, else 1252).
+/// Natively the system's goes with locale::system_language() (Korean 949, Japanese 932, Chinese 936, in
+/// Taiwan, Hong Kong and Macau 950, Russian 1251, every other 1252), asked once for the process.
 int ansi_page();
 
 /// Makes \p page stand for the system's ANSI page in this process; 0 takes the override back.

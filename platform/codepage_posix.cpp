@@ -1,40 +1,16 @@
 #include "platform/codepage.h"
 
 #include "platform/codepage_page.h"
+#include "platform/codepage_system.h"
 #include "platform/codepage_utf8.h"
+#include "platform/locale.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace platform::codepage
 {
 namespace
 {
-int g_override = 0;
-
-/// The ANSI page that Windows gives the language of a locale name such as "ko_KR.UTF-8".
-int page_of_locale(std::string_view name)
-{
-    static constexpr struct
-    {
-        std::string_view begin;
-        int page;
-    } pages[] = {{"ko", 949},    {"ja", 932}, {"zh_TW", 950}, {"zh_HK", 950},
-                 {"zh_MO", 950}, {"zh", 936}, {"ru", 1251}};
-    for (const auto& known_name : pages)
-        if (name.starts_with(known_name.begin))
-            return known_name.page;
-    return 1252;
-}
-
-int system_page()
-{
-    for (const char* variable : {"LC_ALL", "LC_CTYPE", "LANG"})
-        if (const char* value = std::getenv(variable); value && *value)
-            return page_of_locale(value);
-    return 1252;
-}
-
 /// Everything that a page does: UTF-8, or a table.
 struct Converter
 {
@@ -95,18 +71,24 @@ std::basic_string<Out> convert_by_pieces(const In* begin, const In* end, std::si
 const std::uint8_t* unsigned_bytes(const char* bytes) { return reinterpret_cast<const std::uint8_t*>(bytes); }
 } // namespace
 
-int ansi_page()
+int page_of_language(std::wstring_view language)
 {
-    static const int system = system_page();
-    return g_override ? g_override : system;
+    static constexpr struct
+    {
+        std::wstring_view language;
+        int page;
+    } pages[] = {{L"0412", 949}, {L"0411", 932}, {L"0804", 936}, {L"1004", 936},
+                 {L"0404", 950}, {L"0c04", 950}, {L"1404", 950}, {L"0419", 1251}};
+    for (const auto& row : pages)
+        if (row.language == language)
+            return row.page;
+    return 1252;
 }
 
-bool set_ansi_page(int page)
+int system_ansi_page()
 {
-    if (page != ansi && !known(page))
-        return false;
-    g_override = page;
-    return true;
+    static const int page = page_of_language(locale::system_language());
+    return page;
 }
 
 bool known(int page) { return find(page).has_value(); }

@@ -1,5 +1,7 @@
 #include "platform/codepage.h"
 
+#include "platform/codepage_system.h"
+
 #include <windows.h>
 
 #include <algorithm>
@@ -8,8 +10,6 @@ namespace platform::codepage
 {
 namespace
 {
-int g_override = 0;
-
 /// The system's calls count in int; longer input goes through them in pieces of at most this.
 constexpr std::size_t piece = std::size_t{1} << 30;
 
@@ -56,15 +56,7 @@ std::optional<std::size_t> encode_into(int page, std::u16string_view text, char*
 }
 } // namespace
 
-int ansi_page() { return g_override ? g_override : static_cast<int>(GetACP()); }
-
-bool set_ansi_page(int page)
-{
-    if (page != ansi && !known(page))
-        return false;
-    g_override = page;
-    return true;
-}
+int system_ansi_page() { return static_cast<int>(GetACP()); }
 
 bool known(int page) { return page == ansi || IsValidCodePage(static_cast<UINT>(page)); }
 
