@@ -46,6 +46,7 @@ std::span<const Group> groups()
 {
     static const Group all[] = {
         {"ini", "INI documents: language files and other sections of keys and values", ini_commands()},
+        {"header", "Resource headers: the names that a module gives its identifiers", header_commands()},
     };
     return all;
 }

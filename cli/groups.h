@@ -6,4 +6,5 @@
 namespace cli
 {
 std::span<const Command> ini_commands();
+std::span<const Command> header_commands();
 } // namespace cli

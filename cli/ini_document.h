@@ -13,11 +13,6 @@
 /// What the ini commands share: a document as they print and compare it, and its way in and out.
 namespace cli
 {
-inline std::wstring_view view(const CString& text)
-{
-    return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
-}
-
 struct Section
 {
     CString name;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <afxstr.h>
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,6 +12,11 @@ namespace cli
 std::wstring to_wide(std::string_view utf8);
 std::string to_utf8(std::wstring_view wide);
 void append_utf8(std::string& out, std::wstring_view wide);
+
+inline std::wstring_view view(const CString& text)
+{
+    return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
+}
 
 /// Words of \p text in lines of at most \p width characters, each after \p indent blanks; a line feed in
 /// \p text begins a new paragraph, and a word wider than the line stands alone. Ends with a line feed.

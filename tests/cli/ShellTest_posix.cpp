@@ -28,7 +28,8 @@ TEST_F(CompletionTest, OffersGroupsThenCommandsThenOperands)
 {
     write("a.ini", "");
     write("b c.ini", "");
-    EXPECT_EQ(offers("''"), "ini\n");
+    EXPECT_EQ(offers("''"), "ini\nheader\n");
+    EXPECT_EQ(offers("he"), "header\n");
     EXPECT_EQ(offers("ini ''"), "show\nget\nset\nconvert\n");
     EXPECT_EQ(offers("--quiet ini s"), "show\nset\n");
     EXPECT_EQ(offers("ini show a"), "a.ini\n");
@@ -40,7 +41,9 @@ TEST_F(CompletionTest, OffersOptionsOfTheCommandAndTheirValues)
 {
     write("a.ini", "");
     EXPECT_EQ(offers("ini get --d"), "--default\n");
+    EXPECT_EQ(offers("header show --fo"), "--form\n--format\n");
     EXPECT_EQ(offers("ini show --form"), "--format\n");
+    EXPECT_EQ(offers("header show --form m"), "memory\n");
     EXPECT_EQ(offers("ini show --format ''"), "text\njson\n");
     EXPECT_EQ(offers("ini show --format = j"), "json\n");
     EXPECT_EQ(offers("ini show --format ="), "text\njson\n");

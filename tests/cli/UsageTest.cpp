@@ -24,8 +24,9 @@ TEST_F(UsageTest, EachWrongUseIsOneLineAndStatusTwo)
         {{}, "tarvo: usage: tarvo GROUP COMMAND [OPTIONS] FILE...; see tarvo --help\n"},
         {{"--quiet"}, "tarvo: usage: tarvo GROUP COMMAND [OPTIONS] FILE...; see tarvo --help\n"},
         {{"ini"}, "tarvo: ini: a command is missing (show, get, set, convert); see tarvo ini --help\n"},
-        {{"inni", "show"}, "tarvo: inni: no such group (ini); did you mean 'ini'?\n"},
-        {{"zebra"}, "tarvo: zebra: no such group (ini)\n"},
+        {{"header"}, "tarvo: header: a command is missing (show); see tarvo header --help\n"},
+        {{"inni", "show"}, "tarvo: inni: no such group (ini, header); did you mean 'ini'?\n"},
+        {{"zebra"}, "tarvo: zebra: no such group (ini, header)\n"},
         {{"convert", "a.ini"}, "tarvo: convert: a group comes first: tarvo ini convert\n"},
         {{"ini", "covnert", "a.ini"},
          "tarvo: ini covnert: no such command (show, get, set, convert); did you mean 'convert'?\n"},
@@ -54,6 +55,9 @@ TEST_F(UsageTest, EachWrongUseIsOneLineAndStatusTwo)
         {{"ini", "show", "a.ini", "--ansi", "utf8"},
          "tarvo: --ansi: 'utf8' is not a known code page number\n"},
         {{"ini", "show", "a.ini", "--quiet=no"}, "tarvo: ini show: --quiet takes no value\n"},
+        {{"header", "show", "a.h", "--form", "mem"}, "tarvo: --form: 'mem' is none of memory, file\n"},
+        {{"header", "show", "-", "--form", "file"},
+         "tarvo: header show: --form file reads a file by its name, not standard input\n"},
     };
     for (const Wrong& wrong : table)
         EXPECT_EQ(tarvo(wrong.arguments), (Outcome{2, "", wrong.line}))
@@ -105,6 +109,7 @@ TEST_F(UsageTest, HelpFitsAnEightyColumnTerminal)
 {
     for (const std::vector<std::string>& level : {std::vector<std::string>{"--help"},
                                                   {"ini", "--help"},
+                                                  {"header", "--help"},
 
                                                   {"ini", "set", "--help"}})
     {
@@ -163,7 +168,7 @@ TEST_F(UsageTest, ColorsFollowTheOptionThenTheEnvironment)
     EXPECT_EQ(tarvo({"ini", "show", "none", "--color", "always"}),
               (Outcome{3, "", "\x1b[1;31mtarvo:\x1b[0m none: no such file\n"}));
     EXPECT_EQ(tarvo({"--color", "always", "zebra"}),
-              (Outcome{2, "", "\x1b[1;31mtarvo:\x1b[0m zebra: no such group (ini)\n"}));
+              (Outcome{2, "", "\x1b[1;31mtarvo:\x1b[0m zebra: no such group (ini, header)\n"}));
     m_environment["NO_COLOR"] = "1";
     EXPECT_EQ(tarvo({"ini", "show", "a.ini"}), plain);
     EXPECT_EQ(tarvo({"ini", "show", "a.ini", "--color", "always"}), colored);
