@@ -19,16 +19,20 @@ mkdir -p build/fuzz
 step "configuring" build/fuzz/configure.log cmake --preset fuzz || exit 1
 step "building" build/fuzz/build.log cmake --build --preset fuzz -j "$jobs" || exit 1
 
-programs=(build/fuzz/bin/fuzz_*)
-[ $# -eq 1 ] || programs=("build/fuzz/bin/fuzz_$2")
-if [ ! -x "${programs[0]}" ]; then
-  echo "fuzz.sh: no such target; there are: $(ls build/fuzz/bin | sed -n 's/^fuzz_//p' | tr '\n' ' ')" >&2
+# A target is what has seeds; a program may be left over from an earlier build.
+targets=()
+for seeds in fuzz/seeds/*/; do
+  target=$(basename "$seeds")
+  [ $# -gt 1 ] && [ "$2" != "$target" ] || targets+=("$target")
+done
+if [ ${#targets[@]} -eq 0 ]; then
+  echo "fuzz.sh: no target $2; there are: $(ls fuzz/seeds | tr '\n' ' ')" >&2
   exit 2
 fi
 
 status=0
-for program in "${programs[@]}"; do
-  target=${program##*/fuzz_}
+for target in "${targets[@]}"; do
+  program=build/fuzz/bin/fuzz_$target
   findings=build/fuzz/findings/$target corpus=build/fuzz/corpus/$target log=build/fuzz/$target.log
   mkdir -p "$findings" "$corpus"
   touch "$findings/.started"
