@@ -1,6 +1,7 @@
 #include "platform/registry.h"
 
 #include "platform/file.h"
+#include "platform/registry_text_posix.h"
 #include "tests/support/Child.h"
 #include "tests/support/TempFolder.h"
 
@@ -8,7 +9,9 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <memory>
+#include <random>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -194,6 +197,58 @@ TEST_F(RegistryFile, DamagedKeyLinesNameNoKey)
         EXPECT_EQ(open(L"A").get(), nullptr) << line;
         ASSERT_NE(create(L"A").get(), nullptr);
         EXPECT_EQ(get(open(L"A"), L"v"), "(none)") << line;
+    }
+}
+
+TEST(RegistryText, AnyBytesStayAsTheyAreAndTakeAValueThatComesBack)
+{
+    const std::string pieces[] = {"[HKEY_CURRENT_USER\\A]",
+                                  "[HKEY_USERS]",
+                                  "[",
+                                  "]",
+                                  "\"",
+                                  "\\",
+                                  "=",
+                                  "@",
+                                  "v",
+                                  "\n",
+                                  "\r\n",
+                                  "hex:",
+                                  "hex(2):",
+                                  "dword:",
+                                  "00,",
+                                  "ff",
+                                  "\\u",
+                                  "\xED\xA0",
+                                  "\xC3\xA9",
+                                  " ",
+                                  ";",
+                                  std::string(1, '\0')};
+    std::mt19937 random(4711);
+    for (int round = 0; round < 2000; ++round)
+    {
+        std::string bytes;
+        for (unsigned n = random() % 40; n > 0; --n)
+            bytes += pieces[random() % std::size(pieces)];
+        registry::posix::Document document(bytes);
+        const std::string whole = bytes.empty() || bytes.ends_with('\n') ? bytes : bytes + "\n";
+        ASSERT_EQ(document.text(), whole);
+
+        const std::wstring path = L"HKEY_CURRENT_USER\\A",
+                           name(1 + random() % 3, static_cast<wchar_t>(random() % 0x10000));
+        if (!document.has_key(path))
+            document.add_key(path);
+        std::string data(random() % 9, '\0');
+        for (char& c : data)
+            c = static_cast<char>(random() % 3 ? random() : 0);
+        const std::uint32_t type = random() % 5;
+        ASSERT_TRUE(document.set(path, name, {type, data}));
+        const registry::posix::Document again(document.text());
+        const registry::posix::Value* found = again.find(path, name);
+        ASSERT_NE(found, nullptr) << whole;
+        EXPECT_EQ(found->type, type);
+        EXPECT_EQ(found->data, data);
+        EXPECT_EQ(again.text(), document.text());
     }
 }
 
