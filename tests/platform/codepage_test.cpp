@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
+#include <algorithm>
+#include <memory>
 
 namespace codepage = platform::codepage;
 
@@ -84,21 +85,54 @@ TEST(Codepage, BrokenUtf8BecomesReplacementCharactersByTheSystemsRules)
         {"last characters that are right", "\xED\x9F\xBF\xEE\x80\x80\xF4\x8F\xBF\xBF",
          L"\xD7FF\xE000\xDBFF\xDFFF"},
         {"NUL is a byte like others", std::string("\xE3\0\0z", 4), std::wstring(L"\xFFFD\0\0z", 4)},
-        {"cut at the end", "a\xF0\x9F\x98", L"a\xFFFD"},
-        {"a lead byte near the end takes the rest in", "a\xF0zz", L"a\xFFFD"},
-        {"whatever that is", "a\xE1\xC3", L"a\xFFFD"},
-        {"but not when there are bytes enough", "a\xF0zzz", L"a\xFFFDzzz"},
     };
+    // Alone, and between characters that are decoded in blocks.
+    const std::wstring around(100, L'\xAC00');
+    const std::string around_bytes = codepage::encode(codepage::utf8, around).value();
     for (const auto& row : rows)
     {
         EXPECT_EQ(codepage::decode(codepage::utf8, row.bytes), row.text) << row.rule;
-        // The same behind a text that is decoded in blocks.
-        const std::wstring before(200, L'\xAC00');
-        EXPECT_EQ(
-            codepage::decode(codepage::utf8, codepage::encode(codepage::utf8, before).value() + row.bytes),
-            before + row.text)
+        EXPECT_EQ(codepage::decode(codepage::utf8, around_bytes + row.bytes + around_bytes),
+                  around + row.text + around)
             << row.rule;
     }
+}
+
+TEST(Codepage, LeadByteOfUtf8WithTooFewBytesBehindItTakesTheRestIn)
+{
+    for (const std::size_t before : {0, 1, 61, 62, 63, 64, 65, 200, 0x2000 - 1})
+    {
+        const std::string bytes(before, 'a');
+        const std::wstring text(before, L'a');
+        EXPECT_EQ(codepage::decode(codepage::utf8, bytes + "\xF0\x9F\x98"), text + L"\xFFFD");
+        EXPECT_EQ(codepage::decode(codepage::utf8, bytes + "\xF0zz"), text + L"\xFFFD");
+        EXPECT_EQ(codepage::decode(codepage::utf8, bytes + "\xE1\xC3"), text + L"\xFFFD");
+        EXPECT_EQ(codepage::decode(codepage::utf8, bytes + "\xF0zzz"), text + L"\xFFFDzzz");
+    }
+}
+
+TEST(Codepage, NothingPastTheInputIsReadOrPastTheRoomWritten)
+{
+    // Blocks of exactly the size that each call may touch; the sanitizer watches their ends.
+    for (const int page : {949, 932, 1251, 65001})
+        for (std::size_t size = 0; size < 150; ++size)
+            for (const char fill : {'a', '\xB0', '\xC7', '\xED', '\xF0'})
+            {
+                const auto bytes = std::make_unique<char[]>(size);
+                std::fill_n(bytes.get(), size, fill);
+                const auto units = std::make_unique<char16_t[]>(size);
+                EXPECT_LE(codepage::decode(page, {bytes.get(), size}, units.get()), size);
+            }
+    for (const int page : {949, 932, 1251, 65001})
+        for (std::size_t size = 0; size < 150; ++size)
+            for (const char16_t fill : {u'a', u'\x0416', u'\xAC00', u'\xD800'})
+            {
+                const auto units = std::make_unique<char16_t[]>(size);
+                std::fill_n(units.get(), size, fill);
+                const auto bytes = std::make_unique<char[]>(codepage::encoded_bound(size));
+                EXPECT_LE(codepage::encode(page, {units.get(), size}, bytes.get()),
+                          codepage::encoded_bound(size));
+            }
 }
 
 TEST(Codepage, LeadByteTakesAnyNextByteWithItButNul)
