@@ -1,3 +1,5 @@
+#include "platform/file_windows.h"
+
 #include "platform/file.h"
 
 #include <algorithm>
@@ -5,6 +7,28 @@
 
 namespace platform::file
 {
+namespace windows
+{
+std::wstring long_path(const wchar_t* path)
+{
+    constexpr std::size_t classic_limit = 240; // room for a temporary name beside the file
+    std::wstring text(path ? path : L"");
+    if (text.size() < classic_limit || text.starts_with(LR"(\\?\)") || text.starts_with(LR"(\\.\)"))
+        return text;
+    const DWORD size = ::GetFullPathNameW(text.c_str(), 0, nullptr, nullptr);
+    std::wstring full(size, L'\0');
+    const DWORD length = size ? ::GetFullPathNameW(text.c_str(), size, full.data(), nullptr) : 0;
+    if (length == 0 || length >= size)
+        return text;
+    full.resize(length);
+    if (full.starts_with(LR"(\\)"))
+        return LR"(\\?\UNC)" + full.substr(1);
+    return LR"(\\?\)" + full;
+}
+} // namespace windows
+
+using windows::long_path;
+
 const wchar_t separator = L'\\';
 
 namespace
@@ -23,25 +47,6 @@ handle open_handle(const std::wstring& path, DWORD access, DWORD disposition, DW
     const HANDLE h = ::CreateFileW(path.c_str(), access, share_all, nullptr, disposition,
                                    FILE_ATTRIBUTE_NORMAL | flags, nullptr);
     return handle(h == INVALID_HANDLE_VALUE ? nullptr : h);
-}
-
-/// The path as the system takes it at any length: beyond the classic limit it must be a full path
-/// behind the prefix that turns the limit off. Short paths stay as they are, device names too.
-std::wstring long_path(const wchar_t* path)
-{
-    constexpr std::size_t classic_limit = 240; // room for a temporary name beside the file
-    std::wstring text(path ? path : L"");
-    if (text.size() < classic_limit || text.starts_with(LR"(\\?\)") || text.starts_with(LR"(\\.\)"))
-        return text;
-    const DWORD size = ::GetFullPathNameW(text.c_str(), 0, nullptr, nullptr);
-    std::wstring full(size, L'\0');
-    const DWORD length = size ? ::GetFullPathNameW(text.c_str(), size, full.data(), nullptr) : 0;
-    if (length == 0 || length >= size)
-        return text;
-    full.resize(length);
-    if (full.starts_with(LR"(\\)"))
-        return LR"(\\?\UNC)" + full.substr(1);
-    return LR"(\\?\)" + full;
 }
 
 bool write_all(HANDLE file, std::string_view bytes)

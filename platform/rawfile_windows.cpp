@@ -1,5 +1,7 @@
 #include "platform/rawfile.h"
 
+#include "platform/file_windows.h"
+
 #include <algorithm>
 #include <windows.h>
 
@@ -7,6 +9,8 @@ namespace platform::rawfile
 {
 namespace
 {
+using file::windows::long_path;
+
 HANDLE system_handle(handle h) { return reinterpret_cast<HANDLE>(h); }
 
 Error failed(long number) { return {failure_of(number), number}; }
@@ -95,7 +99,7 @@ handle open(const wchar_t* path, const Mode& mode, Error& error)
     const DWORD disposition = !mode.create ? OPEN_EXISTING : mode.keep ? OPEN_ALWAYS : CREATE_ALWAYS;
     SECURITY_ATTRIBUTES security = {sizeof security, nullptr, mode.inherit};
     const HANDLE h =
-        ::CreateFileW(path, access, share, &security, disposition,
+        ::CreateFileW(long_path(path).c_str(), access, share, &security, disposition,
                       FILE_ATTRIBUTE_NORMAL | (mode.write_through ? FILE_FLAG_WRITE_THROUGH : 0), nullptr);
     if (!checked(h != INVALID_HANDLE_VALUE, error))
         return none;
@@ -195,15 +199,18 @@ bool unlock(handle h, std::uint64_t offset, std::uint64_t count, Error& error)
 
 bool rename(const wchar_t* from, const wchar_t* to, Error& error)
 {
-    return checked(::MoveFileW(from, to), error);
+    return checked(::MoveFileW(long_path(from).c_str(), long_path(to).c_str()), error);
 }
 
-bool remove(const wchar_t* path, Error& error) { return checked(::DeleteFileW(path), error); }
+bool remove(const wchar_t* path, Error& error)
+{
+    return checked(::DeleteFileW(long_path(path).c_str()), error);
+}
 
 std::optional<Status> status(const wchar_t* path)
 {
     WIN32_FILE_ATTRIBUTE_DATA data;
-    if (!::GetFileAttributesExW(path, GetFileExInfoStandard, &data))
+    if (!::GetFileAttributesExW(long_path(path).c_str(), GetFileExInfoStandard, &data))
         return std::nullopt;
     Status s;
     s.length = (static_cast<std::uint64_t>(data.nFileSizeHigh) << 32) | data.nFileSizeLow;

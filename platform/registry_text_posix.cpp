@@ -1,11 +1,10 @@
 #include "platform/registry_text_posix.h"
 
 #include "platform/codepage.h"
+#include "platform/letters.h"
 #include "platform/registry.h"
 
 #include <algorithm>
-#include <locale.h>
-#include <wctype.h>
 
 namespace platform::registry::posix
 {
@@ -257,16 +256,8 @@ bool is_at_or_below(std::wstring_view path, std::wstring_view top)
 
 std::wstring upper(std::wstring_view text)
 {
-    static const locale_t unicode = ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
     std::wstring out(text);
-    for (wchar_t& c : out)
-    {
-        const wint_t big =
-            unicode ? ::towupper_l(static_cast<wint_t>(c), unicode) : ::towupper(static_cast<wint_t>(c));
-        const wint_t back = unicode ? ::towlower_l(big, unicode) : ::towlower(big);
-        if (back == static_cast<wint_t>(c) && big <= 0xFFFF)
-            c = static_cast<wchar_t>(big);
-    }
+    std::transform(out.begin(), out.end(), out.begin(), letters::upper);
     return out;
 }
 

@@ -32,8 +32,7 @@ struct Value
     std::string data;
 };
 
-/// Names are equal when their upper-case forms are; a letter counts as upper case of another only if
-/// that is its lower case again, so 'ı' is not 'I'.
+/// Names are equal when their upper-case forms are (platform/letters.h).
 std::wstring upper(std::wstring_view text);
 
 /// The text of a registry file and what it says. Key paths begin with a root name and are valid.

@@ -1,9 +1,9 @@
 #include "afxstr.h"
 
-#include "afxcase.h"
 #include "afxexception.h"
 
 #include "platform/codepage.h"
+#include "platform/letters.h"
 
 #include <algorithm>
 #include <climits>
@@ -35,11 +35,11 @@ const T* or_empty(const T* psz)
     return psz != nullptr ? psz : empty;
 }
 
-bool is_space(wchar_t ch) { return afxIsSpace(ch); }
+bool is_space(wchar_t ch) { return platform::letters::is_space(ch); }
 // Bytes above 0x7F may be halves of a double-byte character.
 bool is_space(char ch)
 {
-    return static_cast<unsigned char>(ch) < 0x80 && afxIsSpace(static_cast<wchar_t>(ch));
+    return static_cast<unsigned char>(ch) < 0x80 && platform::letters::is_space(static_cast<wchar_t>(ch));
 }
 
 std::wstring wide(std::string_view bytes)
@@ -298,8 +298,8 @@ int CStringT<T>::CompareNoCase(PCXSTR psz) const
     {
         for (PCXSTR a = m_pszData;; ++a, ++b)
         {
-            const auto ca = static_cast<unsigned>(*a == *b ? *a : afxFoldChar(*a));
-            const auto cb = static_cast<unsigned>(*a == *b ? *a : afxFoldChar(*b));
+            const auto ca = static_cast<unsigned>(*a == *b ? *a : platform::letters::fold(*a));
+            const auto cb = static_cast<unsigned>(*a == *b ? *a : platform::letters::fold(*b));
             if (ca != cb)
                 return ca < cb ? -1 : 1;
             if (*a == 0)
@@ -520,7 +520,7 @@ CStringT<T>& CStringT<T>::MakeUpper()
     else if (!IsEmpty())
     {
         Prepare(GetLength(), true);
-        std::transform(m_pszData, m_pszData + GetLength(), m_pszData, afxUpperChar);
+        std::transform(m_pszData, m_pszData + GetLength(), m_pszData, platform::letters::upper);
     }
     return *this;
 }
@@ -533,7 +533,7 @@ CStringT<T>& CStringT<T>::MakeLower()
     else if (!IsEmpty())
     {
         Prepare(GetLength(), true);
-        std::transform(m_pszData, m_pszData + GetLength(), m_pszData, afxLowerChar);
+        std::transform(m_pszData, m_pszData + GetLength(), m_pszData, platform::letters::lower);
     }
     return *this;
 }

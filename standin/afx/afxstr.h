@@ -149,7 +149,7 @@ public:
     /// Below, equal to or above zero, as the first differing character is (compared without sign); the
     /// comparison ends at the first NUL. Null is an empty text.
     int Compare(PCXSTR psz) const noexcept;
-    /// The same after afxFoldChar of each character.
+    /// The same after platform::letters::fold of each character.
     int CompareNoCase(PCXSTR psz) const;
 
     /// The first position at or after \p iStart, -1 when there is none. An empty text is found at iStart.
@@ -170,7 +170,7 @@ public:
     /// delimiters the rest of the text is one run. A negative iStart throws CInvalidArgException.
     CStringT Tokenize(PCXSTR pszTokens, int& iStart) const;
 
-    /// White space is what afxIsSpace says.
+    /// White space is what platform::letters::is_space says.
     CStringT& Trim() { return TrimRight().TrimLeft(); }
     CStringT& Trim(XCHAR chTarget) { return TrimRight(chTarget).TrimLeft(chTarget); }
     CStringT& Trim(PCXSTR pszTargets);

@@ -1,6 +1,6 @@
 #include "tarvo/lang/HeaderWords.h"
 
-#include <afxcase.h>
+#include "platform/letters.h"
 
 #include <algorithm>
 
@@ -13,7 +13,7 @@ bool EndsWord(char16_t unit)
     // Letters, digits and signs are told by one comparison.
     if (unit - 0x21u < 0x5Eu)
         return false;
-    return unit == u'\0' || afxIsSpace(static_cast<wchar_t>(unit));
+    return unit == u'\0' || platform::letters::is_space(static_cast<wchar_t>(unit));
 }
 } // namespace
 

@@ -21,8 +21,8 @@ struct Words
     units::view word[3];
 };
 
-/// Reads up to three words separated by white space (afxIsSpace, line ends included) from \p text, as the
-/// C library's scan format "%s %s %s" takes them. A NUL ends the text.
+/// Reads up to three words separated by white space (platform/letters.h; line ends included) from \p text, as
+/// the C library's scan format "%s %s %s" takes them. A NUL ends the text.
 TARVO_API Words ReadWords(units::view text);
 
 /// Walks over the directives of a header text: reads words, then goes on at the next '#'.

@@ -1,8 +1,7 @@
 #include "tarvo/lang/IniText.h"
 
 #include "platform/codepage.h"
-
-#include <afxcase.h>
+#include "platform/letters.h"
 
 #include <algorithm>
 #include <cstring>
@@ -134,7 +133,7 @@ unsigned ToUnsigned(const wchar_t* psz, int radix)
     if (!psz || radix < 0 || radix == 1 || radix > 36)
         return 0;
     const wchar_t* p = psz;
-    while (afxIsSpace(*p))
+    while (platform::letters::is_space(*p))
         ++p;
     const bool negative = *p == L'-';
     if (negative || *p == L'+')

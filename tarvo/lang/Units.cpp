@@ -1,6 +1,6 @@
 #include "tarvo/lang/Units.h"
 
-#include <afxcase.h>
+#include "platform/letters.h"
 
 #include <algorithm>
 #include <bit>
@@ -91,16 +91,16 @@ bool equal_no_case(view a, view b)
         return false;
     // Names of one file mostly begin alike (IDD_...): they differ at the end first.
     for (std::size_t i = a.size(); i-- > 0;)
-        if (a[i] != b[i] && afxFoldChar(a[i]) != afxFoldChar(b[i]))
+        if (a[i] != b[i] && platform::letters::fold(a[i]) != platform::letters::fold(b[i]))
             return false;
     return true;
 }
 
 view trim(view text)
 {
-    while (!text.empty() && afxIsSpace(text.back()))
+    while (!text.empty() && platform::letters::is_space(text.back()))
         text.remove_suffix(1);
-    while (!text.empty() && afxIsSpace(text.front()))
+    while (!text.empty() && platform::letters::is_space(text.front()))
         text.remove_prefix(1);
     return text;
 }

@@ -23,7 +23,7 @@ TARVO_API std::uint32_t hash(view text);
 /// Below, equal to or above zero by the first unit that differs, then by length.
 TARVO_API int compare(view a, view b);
 TARVO_API bool equal_no_case(view a, view b);
-/// \p text without the white space (afxIsSpace) at both ends.
+/// \p text without the white space (platform::letters::is_space) at both ends.
 TARVO_API view trim(view text);
 
 /// The same units as a string of the framework.

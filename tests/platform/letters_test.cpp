@@ -1,9 +1,11 @@
-#include <afxcase.h>
+#include "platform/letters.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <vector>
+
+namespace letters = platform::letters;
 
 namespace
 {
@@ -35,54 +37,54 @@ std::uint32_t fingerprint(F map)
 }
 } // namespace
 
-TEST(Case, EachLetterOfAPairBecomesTheOther)
+TEST(letters, EachLetterOfAPairBecomesTheOther)
 {
     for (const Pair& p : pairs)
     {
-        EXPECT_EQ(afxUpperChar(p.small), p.capital);
-        EXPECT_EQ(afxLowerChar(p.capital), p.small);
-        EXPECT_EQ(afxUpperChar(p.capital), p.capital);
-        EXPECT_EQ(afxLowerChar(p.small), p.small);
-        EXPECT_EQ(afxFoldChar(p.capital), afxFoldChar(p.small));
+        EXPECT_EQ(letters::upper(p.small), p.capital);
+        EXPECT_EQ(letters::lower(p.capital), p.small);
+        EXPECT_EQ(letters::upper(p.capital), p.capital);
+        EXPECT_EQ(letters::lower(p.small), p.small);
+        EXPECT_EQ(letters::fold(p.capital), letters::fold(p.small));
     }
 }
 
-TEST(Case, OtherUnitsKeepTheirForm)
+TEST(letters, OtherUnitsKeepTheirForm)
 {
     for (const wchar_t c : caseless)
     {
-        EXPECT_EQ(afxUpperChar(c), c);
-        EXPECT_EQ(afxLowerChar(c), c);
+        EXPECT_EQ(letters::upper(c), c);
+        EXPECT_EQ(letters::lower(c), c);
     }
 }
 
-TEST(Case, EveryMappingLeadsBack)
+TEST(letters, EveryMappingLeadsBack)
 {
     int n = 0;
     for (unsigned i = 0; i < 0x10000; ++i)
     {
         const auto c = static_cast<wchar_t>(i);
-        if (afxUpperChar(c) != c)
+        if (letters::upper(c) != c)
         {
             ++n;
-            EXPECT_EQ(afxLowerChar(afxUpperChar(c)), c);
+            EXPECT_EQ(letters::lower(letters::upper(c)), c);
         }
-        EXPECT_EQ(afxFoldChar(c), afxLowerChar(c));
+        EXPECT_EQ(letters::fold(c), letters::lower(c));
     }
     EXPECT_EQ(n, 1163);
 }
 
-TEST(Case, AllUnitsMapAlikeOnEveryPlatform)
+TEST(letters, AllUnitsMapAlikeOnEveryPlatform)
 {
-    EXPECT_EQ(fingerprint(afxUpperChar), 3433678092u);
-    EXPECT_EQ(fingerprint(afxLowerChar), 29889594u);
+    EXPECT_EQ(fingerprint(letters::upper), 3433678092u);
+    EXPECT_EQ(fingerprint(letters::lower), 29889594u);
 }
 
-TEST(WhiteSpace, IsTheseTwentyFiveUnits)
+TEST(letters, WhiteSpaceIsTheseTwentyFiveUnits)
 {
     std::vector<unsigned> found;
     for (unsigned i = 0; i < 0x10000; ++i)
-        if (afxIsSpace(static_cast<wchar_t>(i)))
+        if (letters::is_space(static_cast<wchar_t>(i)))
             found.push_back(i);
     EXPECT_EQ(found,
               (std::vector<unsigned>{0x9,    0xA,    0xB,    0xC,    0xD,    0x20,   0x85,   0xA0,   0x1680,

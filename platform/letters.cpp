@@ -1,8 +1,10 @@
-#include "afxcase.h"
+#include "platform/letters.h"
 
 #include <array>
 #include <cstdint>
 
+namespace platform::letters
+{
 namespace
 {
 // Capitals first..last at distance step; the small letter stands delta further on.
@@ -118,5 +120,6 @@ constexpr CaseMap<true> to_upper;
 constexpr CaseMap<false> to_lower;
 } // namespace
 
-wchar_t afxUpperChar(wchar_t ch) noexcept { return to_upper(ch); }
-wchar_t afxLowerChar(wchar_t ch) noexcept { return to_lower(ch); }
+wchar_t upper(wchar_t ch) noexcept { return to_upper(ch); }
+wchar_t lower(wchar_t ch) noexcept { return to_lower(ch); }
+} // namespace platform::letters
