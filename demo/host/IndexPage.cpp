@@ -137,8 +137,9 @@ std::string index_page(const std::vector<WindowReport>& reports)
     page +=
         "<header>\n<h1>TarvoDemo: every window in every language</h1>\n"
         "<p>Real windows, translated by the library from the language files. <b>Translated</b> texts come "
-        "from the language's own file, <b>fallback</b> texts from the file for Global, and "
-        "<b>missing</b> ones stay as the resource has them; a few are missing on purpose.</p>\n"
+        "from the dialog's own section of the language's file, <b>fallback</b> texts from the section "
+        "that dialogs share or from the file for Global, and <b>missing</b> ones stay as the resource has "
+        "them; a few are missing on purpose.</p>\n"
         "<label>Picture size <input id=\"size\" type=\"range\" min=\"160\" max=\"700\" value=\"330\">"
         "</label>\n</header>\n<table>\n<thead><tr><th>Window</th>";
     for (const int language : languages)

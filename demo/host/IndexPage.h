@@ -8,8 +8,8 @@ struct WindowReport
     std::wstring window; ///< the dialog's symbol
     int language = 0;
     bool opened = false;
-    int translated = 0; ///< texts from the language's own file
-    int fallback = 0;   ///< texts from the secondary file
+    int translated = 0; ///< texts from the dialog's section of the language's own file
+    int fallback = 0;   ///< texts from the shared section or the secondary file
     int missing = 0;    ///< texts that stay as in the resource
     std::wstring file;  ///< the picture's name in the folder; empty without one
     std::vector<std::wstring> cutTexts;

@@ -1,0 +1,204 @@
+// The demonstration programs as their users run them: processes with arguments, output and exit status.
+#include "platform/file.h"
+#include "tests/support/TempFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <memory>
+#include <string>
+#include <type_traits>
+
+namespace
+{
+constexpr DWORD kPatience = 100000; // milliseconds; only a program that hangs needs them
+
+struct HandleCloser
+{
+    void operator()(HANDLE handle) const { CloseHandle(handle); }
+};
+using unique_handle = std::unique_ptr<std::remove_pointer_t<HANDLE>, HandleCloser>;
+
+std::wstring program_folder()
+{
+    wchar_t path[1024] = L"";
+    GetModuleFileNameW(nullptr, path, 1024);
+    const std::wstring file = path;
+    return file.substr(0, file.find_last_of(L'\\'));
+}
+
+struct Started
+{
+    unique_handle process;
+    DWORD id = 0;
+};
+
+Started start(const std::wstring& program, const std::wstring& arguments, const std::wstring& outputFile)
+{
+    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+    const unique_handle output(CreateFileW(outputFile.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited,
+                                           CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESTDHANDLES;
+    startup.hStdOutput = output.get();
+    startup.hStdError = output.get();
+    std::wstring command = L"\"" + program + L"\" " + arguments;
+    PROCESS_INFORMATION info{};
+    // The other DLLs are found in the current folder when only some were copied elsewhere.
+    EXPECT_TRUE(CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr,
+                               program_folder().c_str(), &startup, &info))
+        << GetLastError();
+    CloseHandle(info.hThread);
+    return {unique_handle(info.hProcess), info.dwProcessId};
+}
+
+DWORD finish(const Started& started)
+{
+    DWORD status = 999;
+    EXPECT_EQ(WAIT_OBJECT_0, WaitForSingleObject(started.process.get(), kPatience));
+    GetExitCodeProcess(started.process.get(), &status);
+    return status;
+}
+
+struct Ended
+{
+    DWORD status;
+    std::string output;
+};
+
+Ended run(const std::wstring& program, const std::wstring& arguments)
+{
+    const TempFolder folder;
+    const std::wstring file = folder / L"output.txt";
+    const Started started = start(program, arguments, file);
+    const DWORD status = finish(started);
+    std::string output = platform::file::read_whole(file.c_str(), 1 << 20).value_or("");
+    std::erase(output, '\r');
+    return {status, output};
+}
+
+std::wstring demo_program() { return program_folder() + L"\\TarvoDemo.exe"; }
+
+std::string first_bytes(const std::wstring& path, std::size_t count)
+{
+    return platform::file::read_whole(path.c_str(), 1 << 22).value_or("").substr(0, count);
+}
+
+constexpr const wchar_t* kWindows[] = {
+    L"IDR_MAINFRAME", L"IDD_PROJECT_SETTINGS", L"IDD_LOAD_CASES",       L"IDD_UNITS",
+    L"IDD_ABOUT",     L"IDD_SECTION_LIBRARY",  L"IDD_MEMBER_PROPERTIES"};
+} // namespace
+
+TEST(DemoProgram, PicturesOfOneLanguageAreWrittenWithALineOfCountsForEachWindow)
+{
+    const TempFolder folder;
+    const std::wstring pictures = folder / L"a b";
+    const Ended ended = run(demo_program(), L"--pictures \"" + pictures + L"\" --language Korean");
+    EXPECT_EQ(0u, ended.status);
+    EXPECT_EQ("Korean    IDR_MAINFRAME           31 translated   0 fallback   0 missing\n"
+              "Korean    IDD_PROJECT_SETTINGS    20 translated   4 fallback   1 missing\n"
+              "Korean    IDD_LOAD_CASES          13 translated   4 fallback   0 missing\n"
+              "Korean    IDD_UNITS               18 translated   3 fallback   0 missing\n"
+              "Korean    IDD_ABOUT                8 translated   1 fallback   0 missing\n"
+              "Korean    IDD_SECTION_LIBRARY     17 translated   3 fallback   1 missing\n"
+              "Korean    IDD_MEMBER_PROPERTIES   23 translated   4 fallback   0 missing\n",
+              ended.output);
+    for (const wchar_t* window : kWindows)
+        EXPECT_EQ("\x89PNG\r\n", first_bytes(pictures + L"\\" + window + L"_Korean.png", 6));
+    EXPECT_EQ("<!DOCTYPE html>", first_bytes(pictures + L"\\index.html", 15));
+}
+
+TEST(DemoProgram, NoTextIsCutOffInAnyLanguage)
+{
+    const TempFolder folder;
+    const Ended ended = run(demo_program(), L"--pictures \"" + folder.path() + L"\"");
+    EXPECT_EQ(0u, ended.status);
+    EXPECT_THAT(ended.output, testing::Not(testing::HasSubstr("cut off")));
+    EXPECT_EQ(6 * static_cast<int>(std::size(kWindows)) + 1, folder.count());
+}
+
+TEST(DemoProgram, DialogThatCannotBeMadeIsNamedAndMakesTheExitStatusOne)
+{
+    const TempFolder folder;
+    const std::wstring program = folder / L"TarvoDemo.exe";
+    const std::wstring module = folder / L"SectionModule.dll";
+    ASSERT_TRUE(CopyFileW(demo_program().c_str(), program.c_str(), TRUE));
+    ASSERT_TRUE(CopyFileW((program_folder() + L"\\SectionModule.dll").c_str(), module.c_str(), TRUE));
+    // A module without one of its templates.
+    const HANDLE update = BeginUpdateResourceW(module.c_str(), FALSE);
+    ASSERT_NE(nullptr, update);
+    EXPECT_TRUE(UpdateResourceW(update, RT_DIALOG, MAKEINTRESOURCEW(111),
+                                MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), nullptr, 0));
+    EXPECT_TRUE(EndUpdateResourceW(update, FALSE));
+
+    const Ended ended = run(program, L"--pictures \"" + (folder / L"out") + L"\" --language English");
+    EXPECT_EQ(1u, ended.status);
+    EXPECT_THAT(ended.output, testing::HasSubstr("\nEnglish   IDD_MEMBER_PROPERTIES  did not come up\n"));
+}
+
+TEST(DemoProgram, FolderThatCannotBeMadeMakesTheExitStatusOne)
+{
+    const TempFolder folder;
+    const std::wstring file = folder / L"file";
+    ASSERT_EQ(platform::file::Written::ok, platform::file::write_whole(file.c_str(), "x"));
+    EXPECT_EQ(1u, run(demo_program(), L"--pictures \"" + file + L"\" --language English").status);
+}
+
+TEST(DemoProgram, WrongArgumentIsOneLineAndExitStatusTwo)
+{
+    const Ended ended = run(demo_program(), L"--language Klingon");
+    EXPECT_EQ(2u, ended.status);
+    EXPECT_EQ("TarvoDemo: unknown language: Klingon\n", ended.output);
+}
+
+namespace
+{
+struct Search
+{
+    DWORD process;
+    HWND found;
+};
+
+BOOL CALLBACK find_dialog(HWND hwnd, LPARAM to)
+{
+    auto& search = *reinterpret_cast<Search*>(to);
+    DWORD process = 0;
+    GetWindowThreadProcessId(hwnd, &process);
+    if (process != search.process || !IsWindowVisible(hwnd))
+        return TRUE;
+    search.found = hwnd;
+    return FALSE;
+}
+
+/// The first visible window of the process; null when the process ends before it shows one.
+HWND wait_for_window(const Started& started)
+{
+    Search search{started.id, nullptr};
+    const ULONGLONG end = GetTickCount64() + kPatience;
+    while (!search.found && GetTickCount64() < end &&
+           WaitForSingleObject(started.process.get(), 10) == WAIT_TIMEOUT)
+        EnumWindows(find_dialog, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+std::wstring text_of(HWND hwnd)
+{
+    wchar_t text[256] = L"";
+    SendMessageW(hwnd, WM_GETTEXT, 256, reinterpret_cast<LPARAM>(text));
+    return text;
+}
+} // namespace
+
+TEST(MinimalHost, DialogComesUpInJapanese)
+{
+    const TempFolder folder;
+    const Started started = start(program_folder() + L"\\minimal_host.exe", L"", folder / L"output.txt");
+    const HWND dialog = wait_for_window(started);
+    ASSERT_NE(nullptr, dialog);
+    EXPECT_EQ(L"プロジェクト設定", text_of(dialog));
+    EXPECT_EQ(L"キャンセル", text_of(GetDlgItem(dialog, IDCANCEL)));
+    PostMessageW(dialog, WM_CLOSE, 0, 0);
+    EXPECT_EQ(0u, finish(started));
+}
