@@ -20,7 +20,7 @@ public:
     HIMAGELIST m_hImageList = nullptr;
 
     operator HIMAGELIST() const { return m_hImageList; }
-    HIMAGELIST GetSafeHandle() const { return HandleOf(this); }
+    HIMAGELIST GetSafeHandle() const { return HandleOf(AfxOpaque(this)); }
     static HIMAGELIST HandleOf(const CImageList* pList) { return pList ? pList->m_hImageList : nullptr; }
     BOOL Create(int cx, int cy, UINT nFlags, int nInitial, int nGrow)
     {

@@ -23,7 +23,7 @@ public:
     HDC m_hAttribDC = nullptr; ///< where questions go; the same context unless set otherwise
 
     operator HDC() const { return m_hDC; }
-    HDC GetSafeHdc() const { return HandleOf(this); }
+    HDC GetSafeHdc() const { return HandleOf(AfxOpaque(this)); }
     static CDC* PASCAL FromHandle(HDC hDC);
     BOOL Attach(HDC hDC);
     HDC Detach();

@@ -37,6 +37,23 @@ void CDialog::SetTemplateName(LPCTSTR lpszTemplateName)
     m_lpszTemplateName = m_strTemplateName;
 }
 
+namespace
+{
+/// Where a template lies whose handle is of global memory, movable or fixed, or of a loaded resource. The
+/// system moves no memory by itself any more, so no lock is kept.
+LPCDLGTEMPLATE TemplateAt(HGLOBAL hTemplate)
+{
+    if (!hTemplate)
+        return nullptr;
+    const void* p = ::GlobalLock(hTemplate);
+    if (p)
+        ::GlobalUnlock(hTemplate);
+    else
+        p = ::LockResource(hTemplate);
+    return static_cast<LPCDLGTEMPLATE>(p);
+}
+} // namespace
+
 BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
 {
     SetTemplateName(lpszTemplateName);
@@ -54,7 +71,7 @@ BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, 
 
 BOOL CDialog::CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd)
 {
-    const auto* pTemplate = static_cast<LPCDLGTEMPLATE>(::LockResource(hDialogTemplate));
+    const LPCDLGTEMPLATE pTemplate = TemplateAt(hDialogTemplate);
     return pTemplate ? CreateIndirect(pTemplate, pParentWnd) : FALSE;
 }
 
@@ -138,7 +155,7 @@ LPCDLGTEMPLATE CDialog::LockTemplate(HINSTANCE& hInst)
         const HRSRC hResource = ::FindResourceW(hInst, m_lpszTemplateName, RT_DIALOG);
         hTemplate = hResource ? ::LoadResource(hInst, hResource) : nullptr;
     }
-    return static_cast<LPCDLGTEMPLATE>(hTemplate ? ::LockResource(hTemplate) : nullptr);
+    return TemplateAt(hTemplate);
 }
 
 INT_PTR CDialog::DoModal()
@@ -236,9 +253,16 @@ void CDialog::EndDialog(int nResult)
 {
     if (!m_hWnd)
         return;
-    if (m_nFlags & (WF_MODALLOOP | WF_CONTINUEMODAL))
-        EndModalLoop(nResult);
-    ::EndDialog(m_hWnd, nResult);
+    if (!(m_nFlags & (WF_MODALLOOP | WF_CONTINUEMODAL)))
+    {
+        ::EndDialog(m_hWnd, nResult); // in a loop of the system's own
+        return;
+    }
+    // The system's function would enable the owner while dialogs further in still keep it disabled.
+    const bool bModal = (m_nFlags & WF_MODALLOOP) != 0;
+    EndModalLoop(nResult);
+    if (!bModal)
+        ShowWindow(SW_HIDE);
 }
 
 void CDialog::OnOK()

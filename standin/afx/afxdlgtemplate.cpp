@@ -173,11 +173,10 @@ UINT CDialogTemplate::GetTemplateSize(const DLGTEMPLATE* pTemplate)
 
 BOOL CDialogTemplate::SetTemplate(const DLGTEMPLATE* pTemplate, UINT cb)
 {
-    HGLOBAL hCopy = ::GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, cb + LF_FACESIZE * sizeof(WCHAR));
+    HGLOBAL hCopy = ::GlobalAlloc(GPTR, cb);
     if (!hCopy)
         return FALSE;
-    std::memcpy(::GlobalLock(hCopy), pTemplate, cb);
-    ::GlobalUnlock(hCopy);
+    std::memcpy(hCopy, pTemplate, cb); // fixed memory: the handle is its address, for those who do not lock
     if (m_hTemplate)
         ::GlobalFree(m_hTemplate);
     m_hTemplate = hCopy;
@@ -250,39 +249,41 @@ UINT MakeFontEntry(BYTE* pEntry, const DLGTEMPLATE* pTemplate, const BYTE* pOld,
     std::memcpy(pEntry + nHead, szFace, nText);
     return nHead + nText;
 }
+
+/// The old template's bytes with the new font; the items behind it move. Answers the new length.
+UINT CopyWithFont(BYTE* pNew, const DLGTEMPLATE* pOld, UINT nOldSize, LPCTSTR lpFaceName, WORD nFontSize)
+{
+    const auto* pOldBytes = reinterpret_cast<const BYTE*>(pOld);
+    const UINT nFont = AtFont(pOld).Offset();
+    const UINT nItemsOld = AtFirstItem(pOld).Offset();
+    const UINT nItems = ItemCount(pOld) > 0 && nOldSize > nItemsOld ? nOldSize - nItemsOld : 0;
+    std::memcpy(pNew, pOldBytes, nFont);
+    const UINT nEntry = MakeFontEntry(pNew + nFont, pOld, NamesFont(pOld) ? pOldBytes + nFont : nullptr,
+                                      lpFaceName, nFontSize);
+    const UINT nItemsNew = (nFont + nEntry + 3) & ~3u;
+    std::memcpy(pNew + nItemsNew, pOldBytes + nItemsOld, nItems);
+    if (IsExtended(pOld))
+        reinterpret_cast<ExtendedHead*>(pNew)->style |= DS_SETFONT;
+    else
+        reinterpret_cast<DLGTEMPLATE*>(pNew)->style |= DS_SETFONT;
+    return nItemsNew + nItems;
+}
 } // namespace
 
 BOOL CDialogTemplate::SetFont(LPCTSTR lpFaceName, WORD nFontSize)
 {
     if (m_dwTemplateSize == 0 || !m_hTemplate)
         return FALSE;
-    // Room for the longest entry; the items behind it move.
-    const HGLOBAL hLarger =
-        ::GlobalReAlloc(m_hTemplate, m_dwTemplateSize + MAX_FONT_BYTES + 4, GMEM_MOVEABLE | GMEM_ZEROINIT);
-    if (!hLarger)
+    const HGLOBAL hNew = ::GlobalAlloc(GPTR, m_dwTemplateSize + MAX_FONT_BYTES + 4);
+    if (!hNew)
         return FALSE;
-    m_hTemplate = hLarger;
-    auto* pTemplate = static_cast<DLGTEMPLATE*>(::GlobalLock(m_hTemplate));
-    auto* pBytes = reinterpret_cast<BYTE*>(pTemplate);
-    const bool bHad = NamesFont(pTemplate);
-    const UINT nFont = AtFont(pTemplate).Offset();
-    const UINT nItemsOld = AtFirstItem(pTemplate).Offset();
-    BYTE entry[MAX_FONT_BYTES];
-    const UINT nEntry =
-        MakeFontEntry(entry, pTemplate, bHad ? pBytes + nFont : nullptr, lpFaceName, nFontSize);
-    const UINT nItemsNew = (nFont + nEntry + 3) & ~3u;
-    const UINT nItems =
-        ItemCount(pTemplate) > 0 && m_dwTemplateSize > nItemsOld ? m_dwTemplateSize - nItemsOld : 0;
-    std::memmove(pBytes + nItemsNew, pBytes + nItemsOld, nItems);
-    std::memset(pBytes + nFont, 0, nItemsNew - nFont);
-    std::memcpy(pBytes + nFont, entry, nEntry);
-    if (IsExtended(pTemplate))
-        reinterpret_cast<ExtendedHead*>(pTemplate)->style |= DS_SETFONT;
-    else
-        pTemplate->style |= DS_SETFONT;
-    m_dwTemplateSize = nItemsNew + nItems;
+    {
+        const Lock old(m_hTemplate);
+        m_dwTemplateSize =
+            CopyWithFont(static_cast<BYTE*>(hNew), old.p, m_dwTemplateSize, lpFaceName, nFontSize);
+    }
+    ::GlobalFree(std::exchange(m_hTemplate, hNew));
     m_bSystemFont = FALSE;
-    ::GlobalUnlock(m_hTemplate);
     return TRUE;
 }
 

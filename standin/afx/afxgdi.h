@@ -21,7 +21,7 @@ public:
 
     operator HGDIOBJ() const { return m_hObject; }
     /// The handle, also of a null object pointer.
-    HGDIOBJ GetSafeHandle() const { return AfxHandleOf(this); }
+    HGDIOBJ GetSafeHandle() const { return HandleOf(AfxOpaque(this)); }
 
     /// The object attached to the handle or a temporary one; null for a null handle.
     static CGdiObject* PASCAL FromHandle(HGDIOBJ hObject);
@@ -39,7 +39,7 @@ public:
     bool operator!=(const CGdiObject& obj) const { return obj.m_hObject != m_hObject; }
 
 private:
-    static HGDIOBJ AfxHandleOf(const CGdiObject* pObject) { return pObject ? pObject->m_hObject : nullptr; }
+    static HGDIOBJ HandleOf(const CGdiObject* pObject) { return pObject ? pObject->m_hObject : nullptr; }
 };
 
 class AFX_API CPen : public CGdiObject

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <afx.h>
-#include <windows.h>
+#include "afxrect.h"
 
 class CWnd;
 class CBitmap;
@@ -24,7 +23,7 @@ public:
     HMENU m_hMenu = nullptr;
 
     operator HMENU() const { return m_hMenu; }
-    HMENU GetSafeHmenu() const { return HandleOf(this); }
+    HMENU GetSafeHmenu() const { return HandleOf(AfxOpaque(this)); }
     static CMenu* PASCAL FromHandle(HMENU hMenu);
     BOOL Attach(HMENU hMenu);
     HMENU Detach();

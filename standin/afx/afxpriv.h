@@ -16,7 +16,7 @@ public:
     CDialogTemplate(const CDialogTemplate&) = delete;
     CDialogTemplate& operator=(const CDialogTemplate&) = delete;
 
-    HGLOBAL m_hTemplate = nullptr; ///< for CDialog::InitModalIndirect; lock it first for the pointer form
+    HGLOBAL m_hTemplate = nullptr; ///< fixed memory unless given from outside; for CDialog::InitModalIndirect
     DWORD m_dwTemplateSize = 0;    ///< bytes
     BOOL m_bSystemFont = FALSE;    ///< the template names no font
 

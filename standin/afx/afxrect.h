@@ -3,6 +3,15 @@
 #include <afx.h>
 #include <windows.h>
 
+/// A pointer that the compiler knows nothing about. The framework's GetSafe functions answer for a null
+/// object too, which a compiler would otherwise take as impossible inside a member function.
+template <class T>
+inline T* AfxOpaque(T* p)
+{
+    asm("" : "+r"(p));
+    return p;
+}
+
 /// The system's point, size and rectangle with arithmetic. They have the layout of POINT, SIZE and RECT
 /// and stand wherever the system wants one.
 

@@ -44,12 +44,6 @@ public:
         pTemporary->*HandleMember = handle; // a temporary object that was told to give its handle up
         return pTemporary;
     }
-    bool IsTemporary(const Object* pObject) const
-    {
-        auto it = m_temporary.find(pObject->*HandleMember);
-        return it != m_temporary.end() && it->second == pObject;
-    }
-    std::size_t TemporaryCount() const { return m_temporary.size(); }
     void DeleteTemporary()
     {
         auto temporary = std::move(m_temporary);
@@ -95,7 +89,6 @@ struct AFX_THREAD_STATE
     int nTempMapLock = 0;
 
     CWnd* pWndInit = nullptr; ///< the object that waits for the window being created
-    HWND hWndInit = nullptr;  ///< the window that the last waiting object got
     HHOOK hCreationHook = nullptr;
     MSG lastSentMsg{};                   ///< what Default() repeats
     HWND hLockoutNotifyWindow = nullptr; ///< the dialog whose data is being exchanged: takes no notifications

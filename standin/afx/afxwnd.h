@@ -45,7 +45,7 @@ public:
     bool operator==(const CWnd& wnd) const { return wnd.m_hWnd == m_hWnd; }
     bool operator!=(const CWnd& wnd) const { return wnd.m_hWnd != m_hWnd; }
     /// The handle, also of a null object pointer.
-    HWND GetSafeHwnd() const { return SafeHandle(this); }
+    HWND GetSafeHwnd() const { return SafeHandle(AfxOpaque(this)); }
     static HWND SafeHandle(const CWnd* pWnd) { return pWnd ? pWnd->m_hWnd : nullptr; }
 
     static CWnd* PASCAL FromHandle(HWND hWnd);

@@ -22,7 +22,6 @@ LRESULT CALLBACK CreationHook(int nCode, WPARAM wParam, LPARAM lParam)
     if (nCode == HCBT_CREATEWND && state.pWndInit && !IsInputMethodWindow(hWnd))
     {
         CWnd* pWnd = std::exchange(state.pWndInit, nullptr);
-        state.hWndInit = hWnd;
         const MSG msg{hWnd, WM_NCCREATE, 0, 0, 0, {}};
         AfxGuardedCall(msg, [&]() -> LRESULT {
             AfxWndAccess::Adopt(pWnd, hWnd);
@@ -48,7 +47,6 @@ void AfxHookWindowCreate(CWnd* pWnd)
     if (!state.hCreationHook)
         state.hCreationHook = ::SetWindowsHookExW(WH_CBT, CreationHook, nullptr, ::GetCurrentThreadId());
     state.pWndInit = pWnd;
-    state.hWndInit = nullptr;
 }
 
 BOOL AfxUnhookWindowCreate()
@@ -59,11 +57,13 @@ BOOL AfxUnhookWindowCreate()
     return std::exchange(state.pWndInit, nullptr) == nullptr;
 }
 
-/// The hook of an outer creation goes on after one inside it has ended.
+namespace
+{
+/// One creation: the next window is the object's.
 class AfxCreationScope
 {
 public:
-    explicit AfxCreationScope(CWnd* pWnd) : m_pWnd(pWnd) { AfxHookWindowCreate(pWnd); }
+    explicit AfxCreationScope(CWnd* pWnd) : m_life(pWnd), m_pWnd(pWnd) { AfxHookWindowCreate(pWnd); }
     /// FALSE when the object has no living window; PostNcDestroy has then been called.
     BOOL Finish(HWND hWnd)
     {
@@ -72,21 +72,20 @@ public:
             AfxWndAccess::Abandon(m_pWnd);
             return FALSE;
         }
-        if (hWnd)
-            return TRUE;
-        // Destroyed before the system told it so: the object still believes in it.
-        const HWND hGone = AfxThreadState().hWndInit;
-        if (hGone && !::IsWindow(hGone) && CWnd::FromHandlePermanent(hGone) == m_pWnd)
+        // Destroyed without the window's last message: the object still believes in it.
+        if (!hWnd && m_life.IsAlive() && m_pWnd->m_hWnd && !::IsWindow(m_pWnd->m_hWnd))
         {
             m_pWnd->Detach();
             AfxWndAccess::Abandon(m_pWnd);
         }
-        return FALSE;
+        return hWnd != nullptr;
     }
 
 private:
+    AfxLifeLine m_life;
     CWnd* m_pWnd;
 };
+} // namespace
 
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x,
                     int y, int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam)
