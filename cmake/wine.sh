@@ -142,6 +142,7 @@ interrupted() {
 }
 
 if [ ! -x "$wine" ]; then
+  [ "${1-}" != --down ] || exit 0
   echo "wine.sh: $wine is missing; scripts/setup.sh installs it" >&2
   exit 99
 fi
