@@ -1,7 +1,6 @@
 #include "tarvo/lang/IniStore.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstring>
 #include <numeric>
 
@@ -36,10 +35,9 @@ CKeyTable* CIniStore::Find(units::view name) const
         return nullptr;
     const std::uint32_t hash = units::hash(name);
     const std::size_t mask = m_arrSlot.size() - 1;
-    for (std::size_t slot = hash & mask; m_arrSlot[slot].number != 0; slot = (slot + 1) & mask)
-        if (m_arrSlot[slot].hash == hash)
-            if (CKeyTable& table = m_arrSection[m_arrSlot[slot].number - 1]; table.Name() == name)
-                return &table;
+    for (std::size_t i = hash & mask; m_arrSlot[i].table; i = (i + 1) & mask)
+        if (m_arrSlot[i].hash == hash && units::equal(m_arrSlot[i].table->Name(), name))
+            return m_arrSlot[i].table;
     return nullptr;
 }
 
@@ -47,11 +45,11 @@ CKeyTable& CIniStore::Make(units::view name)
 {
     if (CKeyTable* table = Find(name))
         return *table;
-    if ((m_arrSection.size() + 1) * 2 > m_arrSlot.size())
-        Index(std::bit_ceil(4 * (m_arrSection.size() + 1)));
+    if (m_arrSection.size() + 1 > m_arrSlot.size() / 4 * 3)
+        Index(std::max<std::size_t>(8, 2 * m_arrSlot.size()));
     CKeyTable& made = m_arrSection.emplace_back(m_names.Copy(name), m_texts);
     const std::uint32_t hash = units::hash(name);
-    Place(hash) = {hash, static_cast<std::uint32_t>(m_arrSection.size())};
+    Place(hash) = {hash, &made};
     return made;
 }
 
@@ -65,10 +63,10 @@ CKeyTable* CIniStore::Twin(const CIniStore& source, const CKeyTable* table)
 
 void CIniStore::Index(std::size_t slots)
 {
-    std::vector<Slot> old(slots, Slot{0, 0});
+    std::vector<Slot> old(slots, Slot{0, nullptr});
     old.swap(m_arrSlot);
     for (const Slot& slot : old)
-        if (slot.number != 0)
+        if (slot.table)
             Place(slot.hash) = slot;
 }
 
@@ -76,7 +74,7 @@ CIniStore::Slot& CIniStore::Place(std::uint32_t hash)
 {
     const std::size_t mask = m_arrSlot.size() - 1;
     std::size_t slot = hash & mask;
-    while (m_arrSlot[slot].number != 0)
+    while (m_arrSlot[slot].table)
         slot = (slot + 1) & mask;
     return m_arrSlot[slot];
 }

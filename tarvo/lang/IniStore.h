@@ -26,7 +26,6 @@ public:
 
     /// Where to put a text that is to be parsed, \p count units at most.
     char16_t* AddText(std::size_t count) { return m_texts.Add(count); }
-    char16_t* TrimText(std::size_t count) { return m_texts.TrimLast(count); }
     /// Moves the texts together when most of their memory holds replaced ones. Not during a parse.
     void Tidy();
 
@@ -37,7 +36,7 @@ private:
     struct Slot
     {
         std::uint32_t hash;
-        std::uint32_t number; ///< of the section plus one; 0 in a free slot
+        CKeyTable* table; ///< null in a free slot
     };
 
     std::size_t GetTextSize() const;

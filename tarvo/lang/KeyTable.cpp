@@ -10,7 +10,7 @@ namespace
 {
 constexpr std::size_t kShort = 128;
 
-std::uint8_t TagOf(std::uint32_t hash) { return static_cast<std::uint8_t>(hash >> 24); }
+char16_t TagOf(std::uint32_t hash) { return static_cast<char16_t>(hash >> 16); }
 } // namespace
 
 int CKeyTable::Lookup(const wchar_t* key, CString& value) const
@@ -38,26 +38,22 @@ const IniEntry* CKeyTable::Find(units::view key) const
 
 IniEntry* CKeyTable::Find(units::view key, std::uint32_t hash)
 {
-    const std::uint8_t tag = TagOf(hash);
-    if (m_arrSlot.empty())
+    const char16_t tag = TagOf(hash);
+    if (m_arrTag.size() <= kShort)
     {
-        const std::uint8_t* const tags = m_arrTag.data();
-        const std::uint8_t* const end = tags + m_arrTag.size();
-        for (const std::uint8_t* p = tags; p != end; ++p)
-        {
-            p = static_cast<const std::uint8_t*>(std::memchr(p, tag, end - p));
-            if (!p)
-                return nullptr;
-            if (IniEntry& entry = m_arrEntry[p - tags]; entry.Key() == key)
+        const char16_t* const tags = m_arrTag.data();
+        const char16_t* const end = tags + m_arrTag.size();
+        for (const char16_t* p = units::find(tags, end, tag); p != end; p = units::find(p + 1, end, tag))
+            if (IniEntry& entry = m_arrEntry[static_cast<std::size_t>(p - tags)];
+                units::equal(entry.Key(), key))
                 return &entry;
-        }
         return nullptr;
     }
     const std::size_t mask = m_arrSlot.size() - 1;
     for (std::size_t slot = hash & mask; m_arrSlot[slot] != 0; slot = (slot + 1) & mask)
     {
         const std::size_t i = m_arrSlot[slot] - 1;
-        if (m_arrTag[i] == tag && m_arrEntry[i].Key() == key)
+        if (m_arrTag[i] == tag && units::equal(m_arrEntry[i].Key(), key))
             return &m_arrEntry[i];
     }
     return nullptr;

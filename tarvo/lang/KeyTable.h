@@ -21,7 +21,7 @@ struct IniEntry
 
 /// The keys and values of one section, as XIni::GetSection hands them out. It belongs to its document and
 /// stays at its address until the document is cleared. Keys are compared exactly, with letter case.
-class TARVO_API CKeyTable
+class TARVO_API alignas(64) CKeyTable
 {
 public:
     CKeyTable(units::view name, CTextArena& texts) : m_strName(name), m_pTexts(&texts) {}
@@ -57,11 +57,12 @@ private:
     void Assign(IniEntry& entry, units::view value);
     void Index(std::size_t slots);
 
+    // What a look-up in a short section reads stands first, in one line of the processor's cache.
     units::view m_strName;
-    CTextArena* m_pTexts;
+    /// 16 bits of each key's hash: a short section is searched by running over these.
+    std::vector<char16_t> m_arrTag;
     std::vector<IniEntry> m_arrEntry;
-    /// One byte of each key's hash: a short section is searched by running over these.
-    std::vector<std::uint8_t> m_arrTag;
+    CTextArena* m_pTexts;
     /// Positions plus one by hash, open addressing; only sections of more than kShort keys have it.
     std::vector<std::uint32_t> m_arrSlot;
     /// Positions in the order of the keys, made when asked for; shorter than m_arrEntry when out of date.

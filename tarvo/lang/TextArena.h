@@ -13,8 +13,6 @@ class CTextArena
 public:
     /// Room for \p count units, not yet set.
     char16_t* Add(std::size_t count);
-    /// Gives back what the last Add took beyond \p count units, and returns where those now stand.
-    char16_t* TrimLast(std::size_t count);
     std::u16string_view Copy(std::u16string_view text);
     /// Units taken from the system, used or not.
     std::size_t GetSize() const { return m_nSize; }
@@ -31,6 +29,5 @@ private:
     std::vector<Block> m_arrBlock;
     std::size_t m_nBlock = 0; ///< units of the newest block
     std::size_t m_nUsed = 0;  ///< of these, units given out
-    std::size_t m_nLast = 0;  ///< where the last text begins
     std::size_t m_nSize = 0;
 };

@@ -7,15 +7,16 @@
 #include <cstring>
 #include <cwchar>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 static_assert(std::endian::native == std::endian::little, "the first unit stands in a word's lowest bits");
 
 namespace units
 {
 namespace
 {
-constexpr std::uint64_t kOnes = 0x0001000100010001;
-constexpr std::uint64_t kTops = 0x8000800080008000;
-
 std::uint64_t load(const char16_t* p)
 {
     std::uint64_t word;
@@ -23,16 +24,50 @@ std::uint64_t load(const char16_t* p)
     return word;
 }
 
-/// The top bit of each zero unit; bits above the lowest one set may be wrong.
-std::uint64_t zero_units(std::uint64_t word) { return (word - kOnes) & ~word & kTops; }
-
-/// The first unit whose bits under \p mask equal \p pattern.
-const char16_t* find_masked(const char16_t* first, const char16_t* last, std::uint64_t mask, char16_t pattern)
+#if defined(__SSE2__)
+/// A bit pair for each of the eight units at \p p whose bits under \p mask equal \p pattern.
+unsigned equal_units(const char16_t* p, __m128i mask, __m128i pattern)
 {
+    const __m128i units = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+    return static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi16(_mm_and_si128(units, mask), pattern)));
+}
+
+/// The first unit whose bits under \p mask equal \p pattern; the end of the last whole step when none of
+/// those looked at does.
+const char16_t* skip_steps(const char16_t* first, const char16_t* last, char16_t mask, char16_t pattern)
+{
+    const __m128i masks = _mm_set1_epi16(static_cast<short>(mask));
+    const __m128i patterns = _mm_set1_epi16(static_cast<short>(pattern));
+    for (; last - first >= 16; first += 16)
+        if (const unsigned hit = equal_units(first, masks, patterns) | equal_units(first + 8, masks, patterns)
+                                                                           << 16)
+            return first + std::countr_zero(hit) / 2;
+    if (last - first >= 8)
+    {
+        const unsigned hit = equal_units(first, masks, patterns);
+        first += hit ? std::countr_zero(hit) / 2 : 8;
+    }
+    return first;
+}
+#else
+const char16_t* skip_steps(const char16_t* first, const char16_t* last, char16_t mask, char16_t pattern)
+{
+    constexpr std::uint64_t kOnes = 0x0001000100010001;
+    constexpr std::uint64_t kTops = 0x8000800080008000;
     for (; last - first >= 4; first += 4)
-        if (const std::uint64_t hit = zero_units((load(first) & mask) ^ kOnes * pattern))
-            return first + std::countr_zero(hit) / 16;
-    while (first != last && (*first & static_cast<char16_t>(mask)) != pattern)
+    {
+        const std::uint64_t word = (load(first) & kOnes * mask) ^ kOnes * pattern;
+        if (const std::uint64_t zero = (word - kOnes) & ~word & kTops)
+            return first + std::countr_zero(zero) / 16;
+    }
+    return first;
+}
+#endif
+
+const char16_t* find_masked(const char16_t* first, const char16_t* last, char16_t mask, char16_t pattern)
+{
+    first = skip_steps(first, last, mask, pattern);
+    while (first != last && (*first & mask) != pattern)
         ++first;
     return first;
 }
@@ -40,33 +75,38 @@ const char16_t* find_masked(const char16_t* first, const char16_t* last, std::ui
 
 const char16_t* find(const char16_t* first, const char16_t* last, char16_t unit)
 {
-    return find_masked(first, last, ~std::uint64_t{0}, unit);
+    return find_masked(first, last, 0xFFFF, unit);
 }
 
 const char16_t* find_control(const char16_t* first, const char16_t* last)
 {
-    return find_masked(first, last, kOnes * 0xFFF0, 0);
+    return find_masked(first, last, 0xFFF0, 0);
 }
 
 std::uint32_t hash(view text)
 {
     constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15;
-    const char16_t* p = text.data();
-    std::size_t left = text.size();
-    std::uint64_t h = left * kFactor;
-    for (; left >= 4; p += 4, left -= 4)
-    {
-        h = (h ^ load(p)) * kFactor;
-        h ^= h >> 32;
-    }
-    if (left != 0)
-    {
-        std::uint64_t word = 0;
-        std::memcpy(&word, p, left * sizeof *p);
+    const char16_t* const p = text.data();
+    const std::size_t size = text.size();
+    std::uint64_t h = size * kFactor;
+    const auto mix = [&h](std::uint64_t word) {
         h = (h ^ word) * kFactor;
         h ^= h >> 32;
-    }
+    };
+    std::size_t i = 0;
+    for (; i + 4 <= size; i += 4)
+        mix(load(p + i));
+    // The last word overlaps the one before it, so that it is a whole one.
+    if (i < size && size >= 4)
+        mix(load(p + size - 4));
+    for (; size < 4 && i < size; ++i)
+        mix(p[i]);
     return static_cast<std::uint32_t>(h);
+}
+
+bool equal(view a, view b)
+{
+    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0;
 }
 
 int compare(view a, view b)
@@ -126,8 +166,8 @@ CUnits::CUnits(const wchar_t* psz)
     char16_t* out = m_szShort;
     if (length > kShort)
     {
-        m_strLong.resize(length);
-        out = m_strLong.data();
+        m_pLong = std::make_unique_for_overwrite<char16_t[]>(length);
+        out = m_pLong.get();
     }
     units::narrow(psz, length, out);
     m_view = units::view(out, length);

@@ -5,7 +5,7 @@
 #include <afxstr.h>
 
 #include <cstdint>
-#include <string>
+#include <memory>
 #include <string_view>
 
 /// Stored text is UTF-16 units of 16 bits on every platform, half of what wide text takes natively. Here
@@ -22,6 +22,7 @@ TARVO_API const char16_t* find_control(const char16_t* first, const char16_t* la
 TARVO_API std::uint32_t hash(view text);
 /// Below, equal to or above zero by the first unit that differs, then by length.
 TARVO_API int compare(view a, view b);
+TARVO_API bool equal(view a, view b);
 TARVO_API bool equal_no_case(view a, view b);
 /// \p text without the white space (platform::letters::is_space) at both ends.
 TARVO_API view trim(view text);
@@ -45,6 +46,6 @@ public:
 private:
     static constexpr std::size_t kShort = 120;
     char16_t m_szShort[kShort];
-    std::u16string m_strLong;
+    std::unique_ptr<char16_t[]> m_pLong;
     units::view m_view;
 };

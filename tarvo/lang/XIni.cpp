@@ -4,6 +4,7 @@
 #include "platform/file.h"
 #include "tarvo/lang/IniStore.h"
 
+#include <algorithm>
 #include <cstring>
 #include <cwchar>
 #include <new>
@@ -88,13 +89,97 @@ catch (const std::bad_alloc&)
     return 0;
 }
 
+namespace
+{
+/// How much of a source is decoded before its lines are read: so little that it is still in the cache.
+constexpr std::size_t kPiece = 64 * 1024;
+
+/// The length of the next piece of 8-bit text: up to a line's end. A line feed behind a byte of 128 or more
+/// could be that byte's second half in a broken text, so it ends no piece.
+std::size_t PieceOf(std::string_view bytes)
+{
+    for (std::size_t at = kPiece; at < bytes.size(); ++at)
+    {
+        at = bytes.find('\n', at);
+        if (at == std::string_view::npos)
+            break;
+        if (static_cast<unsigned char>(bytes[at - 1]) < 0x80)
+            return at + 1;
+    }
+    return bytes.size();
+}
+
+IniEntry MakeEntry(units::view key, units::view value)
+{
+    return {key.data(), value.data(), static_cast<std::uint32_t>(key.size()),
+            static_cast<std::uint32_t>(value.size())};
+}
+} // namespace
+
+/// Parses one text, handed over in pieces that end at a line's end.
+class XIni::CParser
+{
+public:
+    explicit CParser(XIni& ini) : m_ini(ini) { m_entries.reserve(64); }
+
+    /// Takes the text that was last put into the document's store.
+    void Take(char16_t* text, std::size_t count)
+    {
+        initext::CLineReader reader(text, count);
+        for (units::view line; reader.ReadALine(line);)
+            TakeLine(line);
+    }
+    void Finish()
+    {
+        CloseSection();
+        m_ini.m_pStore->Tidy();
+        m_ini.m_bOpened = 1;
+    }
+
+private:
+    void TakeLine(units::view line)
+    {
+        units::view key, value;
+        switch (initext::GetLineType(line))
+        {
+        case initext::LINE_SECTION:
+            CloseSection();
+            m_pSection = m_ini.StartSection(initext::ParseSection(line));
+            break;
+        case initext::LINE_DATA:
+            if (m_pSection && initext::ParseData(line, key, value))
+                m_entries.push_back(MakeEntry(key, value));
+            break;
+        case initext::LINE_OTHER:
+            if (m_pSection)
+                m_entries.push_back(MakeEntry(line, line.substr(line.size())));
+            break;
+        case initext::LINE_COMMENT:
+        case initext::LINE_BLANK:
+            break;
+        }
+    }
+    void CloseSection()
+    {
+        if (m_pSection)
+            m_pSection->Merge(m_entries);
+        m_entries.clear();
+    }
+
+    XIni& m_ini;
+    CKeyTable* m_pSection = nullptr;
+    std::vector<IniEntry> m_entries; ///< of the current section
+};
+
 int XIni::OpenMemory(const wchar_t* text, int length)
 try
 {
     const std::size_t count = text && length > 0 ? ::wcsnlen(text, static_cast<std::size_t>(length)) : 0;
     char16_t* const units = m_pStore->AddText(count);
     units::narrow(text, count, units);
-    Parse(units, count);
+    CParser parser(*this);
+    parser.Take(units, count);
+    parser.Finish();
     return 1;
 }
 catch (const std::bad_alloc&)
@@ -111,65 +196,31 @@ int XIni::ParseBytes(std::string_view bytes)
     const std::size_t count = (bytes.size() - 2) / 2;
     char16_t* const text = m_pStore->AddText(count);
     std::memcpy(text, bytes.data() + 2, count * sizeof *text);
-    Parse(text, count);
+    CParser parser(*this);
+    parser.Take(text, count);
+    parser.Finish();
     return 1;
 }
 
 int XIni::Ascii2Unicode(std::string_view bytes)
 {
-    bytes = bytes.substr(0, bytes.find('\0'));
-    char16_t* const room = m_pStore->AddText(bytes.size());
-    const auto count = platform::codepage::decode(m_nCodePage, bytes, room);
-    char16_t* const text = m_pStore->TrimText(count.value_or(0));
-    if (!count)
+    if (!platform::codepage::known(m_nCodePage))
         return 0;
-    Parse(text, *count);
-    return 1;
-}
-
-namespace
-{
-IniEntry MakeEntry(units::view key, units::view value)
-{
-    return {key.data(), value.data(), static_cast<std::uint32_t>(key.size()),
-            static_cast<std::uint32_t>(value.size())};
-}
-} // namespace
-
-void XIni::Parse(char16_t* text, std::size_t count)
-{
-    initext::CLineReader reader(text, count);
-    CKeyTable* section = nullptr;
-    std::vector<IniEntry> entries; // of the current section
-    const auto finish = [&] {
-        if (section)
-            section->Merge(entries);
-        entries.clear();
-    };
-    for (units::view line, key, value; reader.ReadALine(line);)
+    bytes = bytes.substr(0, bytes.find('\0'));
+    CParser parser(*this);
+    std::vector<char16_t> decoded;
+    while (!bytes.empty())
     {
-        switch (initext::GetLineType(line))
-        {
-        case initext::LINE_SECTION:
-            finish();
-            section = StartSection(initext::ParseSection(line));
-            break;
-        case initext::LINE_DATA:
-            if (section && initext::ParseData(line, key, value))
-                entries.push_back(MakeEntry(key, value));
-            break;
-        case initext::LINE_OTHER:
-            if (section)
-                entries.push_back(MakeEntry(line, line.substr(line.size())));
-            break;
-        case initext::LINE_COMMENT:
-        case initext::LINE_BLANK:
-            break;
-        }
+        const std::string_view piece = bytes.substr(0, PieceOf(bytes));
+        bytes.remove_prefix(piece.size());
+        decoded.resize(std::max(decoded.size(), piece.size()));
+        const std::size_t count = platform::codepage::decode(m_nCodePage, piece, decoded.data()).value_or(0);
+        char16_t* const text = m_pStore->AddText(count);
+        std::copy_n(decoded.data(), count, text);
+        parser.Take(text, count);
     }
-    finish();
-    m_pStore->Tidy();
-    m_bOpened = 1;
+    parser.Finish();
+    return 1;
 }
 
 /// The table that receives the lines after a section line; null after an empty name, so that they are

@@ -104,9 +104,9 @@ public:
 private:
     void Init();
     void Swap(XIni& other);
+    class CParser;
     int ParseBytes(std::string_view bytes);
     int Ascii2Unicode(std::string_view bytes);
-    void Parse(char16_t* text, std::size_t count);
     CKeyTable* StartSection(units::view name);
     CKeyTable* CachedSection(units::view name) const;
     CKeyTable* FindSection(const wchar_t* section);

@@ -153,6 +153,34 @@ TEST_F(XIniFile, AMemoryBlockThatCannotBeParsedChangesNothing)
     EXPECT_EQ(ini.IsOpened(), 0) << "but not parsed";
 }
 
+TEST_F(XIniFile, EightBitTextIsTheSameHoweverItIsCutForDecoding)
+{
+    // Longer than a piece, with lines of all lengths around its end, and line feeds behind lead bytes.
+    std::string bytes = "[A]\n";
+    for (int i = 0; bytes.size() < 200000; ++i)
+    {
+        bytes += "k" + std::to_string(i) + "=" + std::string(static_cast<std::size_t>(i % 97), 'v');
+        bytes += i % 5 == 0 ? "\xB0\xA1\n" : i % 7 == 0 ? "\xB0\n" : "\n";
+    }
+    for (const int page : {949, 932, 65001, 1252})
+    {
+        for (const std::size_t skip : {0u, 1u, 2u, 3u, 50u})
+        {
+            const std::string text = "; " + std::string(skip, 'x') + "\n" + bytes;
+            XIni whole, pieces;
+            parse(whole, *platform::codepage::decode(page, text));
+            pieces.SetCodePage(page);
+            EXPECT_EQ(parse_bytes(pieces, text), 1);
+            EXPECT_EQ(pieces.Serialize() == whole.Serialize(), true) << page << " " << skip;
+        }
+    }
+    XIni one;
+    one.SetCodePage(949);
+    parse_bytes(one, "[A]\nk=" + std::string(300000, '\xB0'));
+    EXPECT_EQ(static_cast<std::size_t>(one.GetStr(L"A", L"k", L"").GetLength()),
+              platform::codepage::decode(949, std::string(300000, '\xB0'))->size());
+}
+
 TEST_F(XIniFile, ParsesALineOfAMegabyte)
 {
     const std::wstring value(1 << 19, L'\xAC00');
