@@ -136,7 +136,7 @@ void paint_node_numbers(CDC& dc, const CFrame& frame)
             dc.Ellipse(&dot);
             CString text;
             text.Format(L"%d", ++number);
-            dc.TextOut(node.x + 9, node.y + 5, text);
+            dc.TextOut(node.x + 9, node.y + (level == 0 ? 11 : 5), text); // clear of the supports
         }
     }
 }
