@@ -1,8 +1,9 @@
 // Symbols of SectionModule.dll. The text of this file is embedded as a resource: the language table
 // reads the names from it, so every text that is to be translated needs a symbol with its own number.
+// Dialogs have numbers that the host does not use: a template not found here is looked for there.
 #define IDR_RESOURCE_HEADER 60
-#define IDD_SECTION_LIBRARY 110
-#define IDD_MEMBER_PROPERTIES 111
+#define IDD_SECTION_LIBRARY 210
+#define IDD_MEMBER_PROPERTIES 211
 
 #define IDC_APPLY 1000
 #define IDC_OPEN_HELP 1001

@@ -149,7 +149,7 @@ TEST(DemoProgram, DialogThatCannotBeMadeIsNamedAndMakesTheExitStatusOne)
     ASSERT_TRUE(CopyFileW(demo_program().c_str(), program.c_str(), TRUE));
     std::string bytes =
         platform::file::read_whole((program_folder() + L"\\SectionModule.dll").c_str(), 1 << 28).value_or("");
-    hide_template(bytes, 110, 111);
+    hide_template(bytes, '\xD2', '\xD3'); // 210 and 211
     ASSERT_EQ(platform::file::Written::ok, platform::file::write_whole(module.c_str(), bytes));
 
     const Ended ended = run(program, L"--pictures \"" + (folder / L"out") + L"\" --language English");
