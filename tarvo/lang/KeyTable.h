@@ -21,7 +21,7 @@ struct IniEntry
 
 /// The keys and values of one section, as XIni::GetSection hands them out. It belongs to its document and
 /// stays at its address until the document is cleared. Keys are compared exactly, with letter case.
-class TARVO_API alignas(64) CKeyTable
+class alignas(64) TARVO_API CKeyTable
 {
 public:
     CKeyTable(units::view name, CTextArena& texts) : m_strName(name), m_pTexts(&texts) {}
