@@ -21,7 +21,7 @@ struct IniEntry
 
 /// The keys and values of one section, as XIni::GetSection hands them out. It belongs to its document and
 /// stays at its address until the document is cleared. Keys are compared exactly, with letter case.
-class alignas(64) TARVO_API CKeyTable
+class TARVO_API CKeyTable
 {
 public:
     CKeyTable(units::view name, CTextArena& texts) : m_strName(name), m_pTexts(&texts) {}
@@ -58,7 +58,7 @@ private:
     void Index(std::size_t slots);
 
     // What a look-up in a short section reads stands first, in one line of the processor's cache.
-    units::view m_strName;
+    alignas(64) units::view m_strName;
     /// 16 bits of each key's hash: a short section is searched by running over these.
     std::vector<char16_t> m_arrTag;
     std::vector<IniEntry> m_arrEntry;
