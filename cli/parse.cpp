@@ -186,6 +186,17 @@ void declare(CLI::App& app, const std::vector<const Option*>& accepted, Call& ca
     }
 }
 
+[[noreturn]] void unknown_option(const std::string& word, const std::string& subject,
+                                 const std::vector<const Option*>& accepted)
+{
+    std::vector<std::string> spelled;
+    spelled.reserve(accepted.size());
+    for (const Option* option : accepted)
+        spelled.push_back(std::string("--").append(option->name));
+    wrong(subject, "no such option: " + word +
+                       meant(word.substr(0, word.find('=')), {spelled.begin(), spelled.end()}));
+}
+
 /// What CLI11 left over: the operands, in order, and the options that nobody knows.
 std::vector<std::string> operands_of(const std::vector<std::string>& left, const std::string& subject,
                                      const std::vector<const Option*>& accepted)
@@ -200,13 +211,7 @@ std::vector<std::string> operands_of(const std::vector<std::string>& left, const
         else if (operands_only || !is_option(word) || number)
             operands.push_back(word);
         else
-        {
-            std::vector<std::string> spelled;
-            for (const Option* option : accepted)
-                spelled.push_back(std::string("--").append(option->name));
-            wrong(subject, "no such option: " + word +
-                               meant(word.substr(0, word.find('=')), {spelled.begin(), spelled.end()}));
-        }
+            unknown_option(word, subject, accepted);
     }
     return operands;
 }
