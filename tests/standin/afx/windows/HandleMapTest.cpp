@@ -22,13 +22,21 @@ TEST_F(HandleMaps, ForeignWindowGetsOneTemporaryObjectUntilIdle)
     EXPECT_EQ(pWnd->m_hWnd, bare.hWnd);
     EXPECT_EQ(CWnd::FromHandle(bare.hWnd), pWnd);
     EXPECT_EQ(CWnd::FromHandlePermanent(bare.hWnd), nullptr);
+    // What an object was told is gone with it; its address may come again.
+    const BareWindow owner;
+    pWnd->SetOwner(CWnd::FromHandle(owner.hWnd));
+    const auto owned = [&] {
+        return CWnd::SafeHandle(CWnd::FromHandle(bare.hWnd)->GetOwner()) == owner.hWnd;
+    };
     theApp.OnIdle(0);
-    EXPECT_EQ(CWnd::FromHandle(bare.hWnd), pWnd); // only the second call cleans up
+    EXPECT_TRUE(owned()); // only the second call cleans up
     AfxLockTempMaps();
     theApp.OnIdle(1);
-    EXPECT_EQ(CWnd::FromHandle(bare.hWnd), pWnd); // a lock holds them
+    EXPECT_TRUE(owned()); // a lock holds them
     EXPECT_FALSE(AfxUnlockTempMaps(FALSE));
+    EXPECT_TRUE(owned());
     theApp.OnIdle(1);
+    EXPECT_FALSE(owned());
     EXPECT_TRUE(::IsWindow(bare.hWnd)); // the object went, the window stayed
 }
 
