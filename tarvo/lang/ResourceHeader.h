@@ -29,15 +29,15 @@ public:
         Menu      ///< ID_, and IDM_ in the memory form
     };
 
-    /// The memory form: \p nChars characters of UTF-16LE at \p pData, which need not be aligned. The
-    /// text ends early at a NUL. First the standard buttons are recorded in All: 1 IDOK, 2 IDCANCEL,
-    /// 8 IDCLOSE; so they win over any other name of these values.
+    /// The memory form: \p nChars characters of UTF-16LE at \p pData, which need not be aligned. First the
+    /// standard buttons are recorded in All: 1 IDOK, 2 IDCANCEL, 8 IDCLOSE; so they win over any other name
+    /// of these values.
     ///
     /// Reads three words, then goes on at the next `#` behind them, so that comments and blank lines are
-    /// stepped over. Three words are a definition when the first begins with `#define` (`#defineX` too)
-    /// and the second not with an underscore. Words end at white space only, not at line ends: a
-    /// definition without a value takes the next line's first word for it. Of a word longer than
-    /// MaxWord characters the first MaxWord count. Returns 1, or 0 for a null \p pData.
+    /// stepped over; a NUL ends the words before it. Three words are a definition when the first begins with
+    /// `#define` (`#defineX` too) and the second not with an underscore. Words end at white space only, not
+    /// at line ends: a definition without a value takes the next line's first word for it. Of a word longer
+    /// than MaxWord characters the first MaxWord count. Returns 1, or 0 for a null \p pData.
     int LoadMemory(const unsigned char* pData, int nChars);
 
     /// The file form: lines of 8-bit text, each byte one character, as the C library reads text (CR LF
