@@ -35,6 +35,15 @@ const T* or_empty(const T* psz)
     return psz != nullptr ? psz : empty;
 }
 
+template <class T>
+bool is_ascii(const T* pch, int nLength)
+{
+    std::uint32_t bits = 0;
+    for (int i = 0; i < nLength; ++i)
+        bits |= static_cast<std::uint32_t>(pch[i]);
+    return bits < 0x80;
+}
+
 bool is_space(wchar_t ch) { return platform::letters::is_space(ch); }
 // Bytes above 0x7F may be halves of a double-byte character.
 bool is_space(char ch)
@@ -185,7 +194,7 @@ CStringT<T>::CStringT(PCYSTR pch, int nLength) : CStringT()
         return;
     const std::basic_string_view<YCHAR> source(pch, static_cast<std::size_t>(nLength));
     // ASCII is the same in every page.
-    if (std::all_of(pch, pch + nLength, [](YCHAR ch) { return static_cast<std::uint32_t>(ch) < 0x80; }))
+    if (is_ascii(pch, nLength))
     {
         Prepare(nLength, false);
         std::transform(pch, pch + nLength, m_pszData, [](YCHAR ch) { return static_cast<T>(ch); });
@@ -326,7 +335,7 @@ int CStringT<T>::Find(PCXSTR pszSub, int iStart) const noexcept
         return -1;
     const std::basic_string_view<T> text(m_pszData, static_cast<std::size_t>(nLength));
     const auto at = text.find(or_empty(pszSub), static_cast<std::size_t>(iStart));
-    return at == text.npos ? -1 : static_cast<int>(at);
+    return at == std::basic_string_view<T>::npos ? -1 : static_cast<int>(at);
 }
 
 template <class T>

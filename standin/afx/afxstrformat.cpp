@@ -319,7 +319,7 @@ Number floating(const Conversion& c, F value)
                                : type == 'f' ? std::chars_format::fixed
                                              : std::chars_format::general,
                                precision);
-    if (c.alternate && r.zeros_allowed && r.digits.find('.') == r.digits.npos)
+    if (c.alternate && r.zeros_allowed && r.digits.find('.') == std::string::npos)
         r.digits.insert(std::min(r.digits.find_first_of(type == 'a' ? "p" : "e"), r.digits.size()), ".");
     const auto capital = [](char ch) { return static_cast<char>(ch >= 'a' && ch <= 'z' ? ch - 32 : ch); };
     if (capitals)

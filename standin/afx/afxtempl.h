@@ -421,6 +421,9 @@ public:
     {
         const KEY key;
         VALUE value;
+
+    protected:
+        explicit CPair(ARG_KEY k) : key(k), value() {}
     };
 
     /// \p nBlockSize is a hint of other builds of the framework and has no effect.
@@ -457,7 +460,7 @@ public:
 private:
     struct CAssoc : CPair
     {
-        CAssoc(ARG_KEY k, UINT nHashValue) : CPair{KEY(k), VALUE()}, nHash(nHashValue) {}
+        CAssoc(ARG_KEY k, UINT nHashValue) : CPair(k), nHash(nHashValue) {}
         CAssoc* pNext = nullptr;
         UINT nHash;
     };
