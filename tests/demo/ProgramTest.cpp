@@ -221,3 +221,63 @@ TEST(MinimalHost, DialogComesUpInJapanese)
     PostMessageW(dialog, WM_CLOSE, 0, 0);
     finish(started);
 }
+
+namespace
+{
+/// The language that the program has stored, kept while a test changes it.
+class StoredLanguage
+{
+public:
+    StoredLanguage() : m_before(Read()) {}
+    ~StoredLanguage()
+    {
+        RegSetKeyValueW(HKEY_CURRENT_USER, kKey, L"LANGUAGE", REG_DWORD, &m_before, sizeof m_before);
+    }
+    StoredLanguage(const StoredLanguage&) = delete;
+    StoredLanguage& operator=(const StoredLanguage&) = delete;
+
+    static DWORD Read()
+    {
+        DWORD value = 0;
+        DWORD size = sizeof value;
+        RegGetValueW(HKEY_CURRENT_USER, kKey, L"LANGUAGE", RRF_RT_REG_DWORD, nullptr, &value, &size);
+        return value;
+    }
+
+private:
+    static constexpr const wchar_t* kKey = L"Software\\TarvoDemo\\TarvoDemo\\LANGUAGE";
+    DWORD m_before;
+};
+
+bool wait_for_text(HWND hwnd, const std::wstring& text)
+{
+    const ULONGLONG end = GetTickCount64() + kPatience;
+    while (text_of(hwnd) != text && IsWindow(hwnd) && GetTickCount64() < end)
+        Sleep(10);
+    return text_of(hwnd) == text;
+}
+} // namespace
+
+TEST(DemoProgram, LanguageMenuChangesTheWindowAndIsRememberedForTheNextStart)
+{
+    constexpr WPARAM idLanguageJapanese = 2043;
+    const StoredLanguage kept;
+    const TempFolder folder;
+    {
+        const Started started = start(demo_program(), L"--language Russian", folder / L"output.txt");
+        const HWND window = wait_for_window(started);
+        ASSERT_NE(nullptr, window);
+        EXPECT_TRUE(wait_for_text(window, L"Офисное здание, 3 этажа - TarvoDemo"));
+        PostMessageW(window, WM_COMMAND, idLanguageJapanese, 0);
+        EXPECT_TRUE(wait_for_text(window, L"3階建て事務所ビル - TarvoDemo"));
+        PostMessageW(window, WM_CLOSE, 0, 0);
+        EXPECT_EQ(0u, finish(started));
+    }
+    EXPECT_EQ(2u, StoredLanguage::Read());
+    const Started again = start(demo_program(), L"", folder / L"output2.txt");
+    const HWND window = wait_for_window(again);
+    ASSERT_NE(nullptr, window);
+    EXPECT_TRUE(wait_for_text(window, L"3階建て事務所ビル - TarvoDemo"));
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    EXPECT_EQ(0u, finish(again));
+}
