@@ -46,9 +46,11 @@ protected:
     }
     void write_korean(const std::wstring& project, const std::wstring& text)
     {
-        const std::filesystem::path folder = std::filesystem::path(program_folder()) / "Language" / "Korean";
-        std::filesystem::create_directories(folder);
-        files.push_back((folder / (L"ctrl_" + project + L"_kr.ini")).wstring());
+        const std::wstring slash(1, platform::file::separator);
+        const std::wstring folder = program_folder() + slash + L"Language" + slash + L"Korean";
+        // As units: wide paths go through the locale, which cannot name every folder that a clone stands in.
+        std::filesystem::create_directories(std::u16string(folder.begin(), folder.end()));
+        files.push_back(folder + slash + L"ctrl_" + project + L"_kr.ini");
         const std::string bytes = "\xFF\xFE" + platform::codepage::to_utf16le(text);
         EXPECT_EQ(platform::file::write_whole(files.back().c_str(), bytes), platform::file::Written::ok);
     }
