@@ -57,7 +57,7 @@ endfunction()
 # tarvo_test(NAME [LIBS target...] [PORTABLE file...] [WINDOWS file...] [POSIX file...]
 #            [LOCALE ll_CC] [TIMEOUT seconds])
 # One test program per folder; every TEST in it is one ctest test named NAME:Suite.Case. LOCALE runs
-# the program under that user and system locale (Wine; natively the variable is only set).
+# the program under that user and system locale (under Wine; natively it means nothing).
 function(tarvo_test name)
   cmake_parse_arguments(arg "" "LOCALE;TIMEOUT" "LIBS;PORTABLE;WINDOWS;POSIX" ${ARGN})
   set(sources ${arg_PORTABLE})
@@ -78,14 +78,18 @@ function(tarvo_test name)
   # Relative to the test's working folder: a Windows program's environment cannot hold every character
   # that the path of a clone may have.
   file(RELATIVE_PATH source_dir ${CMAKE_CURRENT_BINARY_DIR} ${PROJECT_SOURCE_DIR})
-  # The launcher gives up before ctest does, and says so.
-  math(EXPR wine_timeout "${arg_TIMEOUT} * 4 / 5")
-  set(environment "TARVO_TEST_SOURCE_DIR=${source_dir}" "WINE_TEST_TIMEOUT=${wine_timeout}")
-  if(arg_LOCALE)
-    list(APPEND environment "WINE_TEST_LANG=${arg_LOCALE}.UTF-8")
+  if(CMAKE_CROSSCOMPILING_EMULATOR)
+    # The launcher gives up before ctest does, and says so. It is told on its command line, since only one
+    # entry of the property ENVIRONMENT survives the discovery of tests.
+    math(EXPR wine_timeout "${arg_TIMEOUT} * 4 / 5")
+    set(launcher env WINE_TEST_TIMEOUT=${wine_timeout})
+    if(arg_LOCALE)
+      list(APPEND launcher WINE_TEST_LANG=${arg_LOCALE})
+    endif()
+    set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR "${launcher};${CMAKE_CROSSCOMPILING_EMULATOR}")
   endif()
   gtest_discover_tests(${name}
     TEST_PREFIX ${name}:
     DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
-    PROPERTIES TIMEOUT ${arg_TIMEOUT} ENVIRONMENT "${environment}")
+    PROPERTIES TIMEOUT ${arg_TIMEOUT} ENVIRONMENT "TARVO_TEST_SOURCE_DIR=${source_dir}")
 endfunction()
