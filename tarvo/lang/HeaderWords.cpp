@@ -3,6 +3,8 @@
 #include "platform/letters.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 namespace headertext
 {
@@ -15,6 +17,40 @@ bool EndsWord(char16_t unit)
         return false;
     return unit == u'\0' || platform::letters::is_space(static_cast<wchar_t>(unit));
 }
+
+constexpr std::uint64_t kOnes = 0x0001000100010001;
+
+std::uint64_t FourUnits(const char16_t* at)
+{
+    std::uint64_t four;
+    std::memcpy(&four, at, sizeof four);
+    return four;
+}
+
+// The end of the blanks at \p at; headers align their values with many, so four spaces go in one step.
+const char16_t* PassBlanks(const char16_t* at, const char16_t* end)
+{
+    while (end - at >= 4 && FourUnits(at) == kOnes * u' ')
+        at += 4;
+    while (at != end && *at != u'\0' && EndsWord(*at))
+        ++at;
+    return at;
+}
+
+// The end of the word at \p at: four units in one step while none is below '!' or above 0x7F.
+const char16_t* PassWord(const char16_t* at, const char16_t* end)
+{
+    for (; end - at >= 4; at += 4)
+    {
+        const std::uint64_t four = FourUnits(at);
+        const std::uint64_t below = (four - kOnes * u'!') & ~four & kOnes * 0x8000;
+        if ((below | (four & kOnes * 0xFF80)) != 0)
+            break;
+    }
+    while (at != end && !EndsWord(*at))
+        ++at;
+    return at;
+}
 } // namespace
 
 Words ReadWords(units::view text)
@@ -24,13 +60,11 @@ Words ReadWords(units::view text)
     const char16_t* const end = at + text.size();
     for (units::view& word : words.word)
     {
-        while (at != end && *at != u'\0' && EndsWord(*at))
-            ++at;
+        at = PassBlanks(at, end);
         if (at == end || *at == u'\0')
             break;
         const char16_t* const begin = at;
-        while (at != end && !EndsWord(*at))
-            ++at;
+        at = PassWord(at, end);
         word = {begin, std::min(static_cast<std::size_t>(at - begin), kMostWord)};
         ++words.count;
     }

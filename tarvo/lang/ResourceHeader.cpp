@@ -37,12 +37,14 @@ constexpr StandardButton standardButtons[] = {{u"IDOK", u"1"}, {u"IDCANCEL", u"2
 const Mark* FindMark(units::view name, bool fromFile)
 {
     const Mark* best = std::end(marks);
-    for (std::size_t at = 0; at + 3 <= name.size() && best != std::begin(marks); ++at)
+    const char16_t* const end = name.data() + name.size();
+    // Every mark ends with an underscore, and a name has few of those.
+    for (const char16_t* at = units::find(name.data(), end, u'_'); at != end;
+         at = units::find(at + 1, end, u'_'))
     {
-        if (name[at] != u'I' || name[at + 1] != u'D')
-            continue;
+        const units::view upTo(name.data(), static_cast<std::size_t>(at + 1 - name.data()));
         best = std::find_if(std::begin(marks), best, [&](const Mark& mark) {
-            return (mark.inFiles || !fromFile) && name.substr(at).starts_with(mark.text);
+            return (mark.inFiles || !fromFile) && upTo.ends_with(mark.text);
         });
     }
     return best == std::end(marks) ? nullptr : best;
