@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tarvo/export.h"
-#include "tarvo/lang/Units.h"
+#include "tarvo/text/Units.h"
 
 #include <cstddef>
 #include <string>

@@ -2,7 +2,7 @@
 
 #include "tarvo/export.h"
 #include "tarvo/lang/TextArena.h"
-#include "tarvo/lang/Units.h"
+#include "tarvo/text/Units.h"
 
 #include <cstdint>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "tarvo/lang/Units.h"
+#include "tarvo/text/Units.h"
 
 #include "platform/letters.h"
 
