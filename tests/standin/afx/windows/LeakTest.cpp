@@ -1,47 +1,10 @@
+#include "HandleCount.h"
 #include "TestApp.h"
 
 #include <afxpriv.h>
 
 namespace
 {
-/// The process' table of drawing objects, which the system maps into every process.
-struct GdiEntry
-{
-    ULONGLONG object;
-    ULONG owner;
-    USHORT unique;
-    UCHAR type;
-    UCHAR flags;
-    ULONGLONG user;
-};
-
-int CountDrawingObjects()
-{
-    constexpr std::size_t TABLE_IN_PEB = 0xF8;
-    constexpr int ENTRIES = 16384;
-    using GetPeb = const char*(WINAPI*)();
-    const FARPROC pfn = ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "RtlGetCurrentPeb");
-    const char* pPeb = reinterpret_cast<GetPeb>(reinterpret_cast<void*>(pfn))();
-    const auto* pEntries = *reinterpret_cast<GdiEntry* const*>(pPeb + TABLE_IN_PEB);
-    int nCount = 0;
-    for (int i = 0; i < ENTRIES; ++i)
-        nCount += pEntries[i].type != 0;
-    return nCount;
-}
-
-int CountWindows()
-{
-    int nCount = 0;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND, LPARAM lParam) -> BOOL {
-            ++*reinterpret_cast<int*>(lParam);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&nCount));
-    return nCount;
-}
-
 class CRoundDlg : public CDialog
 {
 public:

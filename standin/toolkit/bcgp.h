@@ -1,0 +1,7 @@
+#pragma once
+
+/// The extension toolkit: its dialogs, form views, property pages and sheets, and the visual manager that
+/// colours them.
+
+#include "bcgpdialog.h"
+#include "bcgpvisualmanager.h"
