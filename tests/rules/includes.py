@@ -16,7 +16,7 @@ TABLE = {
     "tarvo/settings": [],
     "tarvo/msg": ["tarvo/text", "tarvo/settings", "standin/qlx"],
     "tarvo/lang": ["tarvo/text", "tarvo/settings", "standin/qlx"],
-    "tarvo/intl": ["tarvo/lang", "tarvo/settings", "tarvo/msg", "standin/toolkit"],
+    "tarvo/intl": ["tarvo/lang", "tarvo/settings", "tarvo/msg", "standin/qlx", "standin/toolkit"],
     "tarvo/dlg": ["tarvo/intl", "tarvo/settings", "tarvo/text"],
     "tarvo/grid": ["tarvo/intl", "tarvo/settings", "tarvo/text"],
     "tarvo/restools": ["tarvo", "standin/qlx", "standin/toolkit"],
@@ -31,7 +31,8 @@ SHARED = {"tarvo/export.h"}
 # The framework's headers that need no windows.
 PORTABLE_AFX = {"afx.h", "afxstr.h", "afxcoll.h", "afxtempl.h"}
 # What the vendor's framework has under the same names; its stand-in's own parts are nobody else's business.
-DOCUMENTED_AFX = PORTABLE_AFX | {"afxwin.h", "afxext.h", "afxcmn.h", "afxdlgs.h", "afxrich.h", "afxres.h"}
+DOCUMENTED_AFX = PORTABLE_AFX | {"afxwin.h", "afxext.h", "afxcmn.h", "afxdlgs.h", "afxpriv.h", "afxrich.h",
+                                  "afxres.h"}
 # Packages that a program may use beside the standard library.
 PACKAGES = {"cli": ("CLI/", "nlohmann/")}
 
