@@ -5,12 +5,13 @@
 #include <afxwin.h>
 
 #include <map>
+#include <string>
 #include <tuple>
 
 namespace
 {
-/// A description's traits in one number each, and its face in one letter case.
-using Key = std::tuple<CString, LONG, LONG, LONG, LONG, LONG, DWORD, DWORD>;
+/// A description's traits, and its face in one letter case. No CString: a tuple would compare its address.
+using Key = std::tuple<std::wstring, LONG, LONG, LONG, LONG, LONG, DWORD, DWORD>;
 
 Key KeyOf(const LOGFONTW& font)
 {
@@ -20,8 +21,9 @@ Key KeyOf(const LOGFONTW& font)
     const DWORD traits =
         static_cast<DWORD>(font.lfCharSet | font.lfOutPrecision << 8 | font.lfClipPrecision << 16) |
         static_cast<DWORD>(font.lfPitchAndFamily) << 24;
-    return {face,          font.lfHeight,  font.lfWidth, font.lfEscapement * 0x10000 + font.lfOrientation,
-            font.lfWeight, font.lfQuality, style,        traits};
+    return {
+        std::wstring(face), font.lfHeight,  font.lfWidth, font.lfEscapement * 0x10000 + font.lfOrientation,
+        font.lfWeight,      font.lfQuality, style,        traits};
 }
 
 /// Deletes what is left when the library goes.

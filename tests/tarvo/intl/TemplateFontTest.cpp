@@ -107,7 +107,7 @@ TEST(TemplateFont, MessageFontHasNoNameThatFollows)
     Bytes bytes = TemplateBytes(false, false).caption(L"S").control(7, L"x").bytes();
     bytes[0] |= 0x40;
     const std::size_t at = 18 + 4 + 4; // head, no menu and usual class, "S"
-    bytes[at] = 0xFF; // in the place of the padding
+    bytes[at] = 0xFF;                  // in the place of the padding
     bytes[at + 1] = 0x7F;
     EXPECT_EQ(texts_of(bytes), L"S 7:x");
     EXPECT_EQ(font_of(bytes), L"32767 ");
