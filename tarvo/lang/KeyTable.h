@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tarvo/export.h"
-#include "tarvo/lang/TextArena.h"
+#include "tarvo/text/TextArena.h"
 #include "tarvo/text/Units.h"
 
 #include <cstdint>

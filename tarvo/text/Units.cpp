@@ -24,50 +24,88 @@ std::uint64_t load(const char16_t* p)
     return word;
 }
 
-#if defined(__SSE2__)
-/// A bit pair for each of the eight units at \p p whose bits under \p mask equal \p pattern.
-unsigned equal_units(const char16_t* p, __m128i mask, __m128i pattern)
+/// Units whose bits under the mask equal the pattern.
+struct Masked
 {
-    const __m128i units = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
-    return static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi16(_mm_and_si128(units, mask), pattern)));
+    char16_t mask;
+    char16_t pattern;
+    bool holds(char16_t unit) const { return (unit & mask) == pattern; }
+};
+
+/// Two units that are looked for at once.
+struct Either
+{
+    char16_t a;
+    char16_t b;
+    bool holds(char16_t unit) const { return unit == a || unit == b; }
+};
+
+#if defined(__SSE2__)
+__m128i all(char16_t unit) { return _mm_set1_epi16(static_cast<short>(unit)); }
+
+__m128i hits(__m128i eight, const Masked& wanted)
+{
+    return _mm_cmpeq_epi16(_mm_and_si128(eight, all(wanted.mask)), all(wanted.pattern));
 }
 
-/// The first unit whose bits under \p mask equal \p pattern; the end of the last whole step when none of
-/// those looked at does.
-const char16_t* skip_steps(const char16_t* first, const char16_t* last, char16_t mask, char16_t pattern)
+__m128i hits(__m128i eight, const Either& wanted)
 {
-    const __m128i masks = _mm_set1_epi16(static_cast<short>(mask));
-    const __m128i patterns = _mm_set1_epi16(static_cast<short>(pattern));
+    return _mm_or_si128(_mm_cmpeq_epi16(eight, all(wanted.a)), _mm_cmpeq_epi16(eight, all(wanted.b)));
+}
+
+/// A bit pair for each of the eight units at \p p that is wanted.
+template <class Wanted>
+unsigned hit_bits(const char16_t* p, const Wanted& wanted)
+{
+    const __m128i eight = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+    return static_cast<unsigned>(_mm_movemask_epi8(hits(eight, wanted)));
+}
+
+/// The first wanted unit; the end of the last whole step when none of those looked at is.
+template <class Wanted>
+const char16_t* skip_steps(const char16_t* first, const char16_t* last, const Wanted& wanted)
+{
     for (; last - first >= 16; first += 16)
-        if (const unsigned hit = equal_units(first, masks, patterns) | equal_units(first + 8, masks, patterns)
-                                                                           << 16)
+        if (const unsigned hit = hit_bits(first, wanted) | hit_bits(first + 8, wanted) << 16)
             return first + std::countr_zero(hit) / 2;
     if (last - first >= 8)
     {
-        const unsigned hit = equal_units(first, masks, patterns);
+        const unsigned hit = hit_bits(first, wanted);
         first += hit ? std::countr_zero(hit) / 2 : 8;
     }
     return first;
 }
 #else
-const char16_t* skip_steps(const char16_t* first, const char16_t* last, char16_t mask, char16_t pattern)
+constexpr std::uint64_t kOnes = 0x0001000100010001;
+
+/// The top bit of every unit that is 0, and perhaps of some above one that is.
+std::uint64_t zeros(std::uint64_t four) { return (four - kOnes) & ~four & kOnes << 15; }
+
+std::uint64_t hits(std::uint64_t four, const Masked& wanted)
 {
-    constexpr std::uint64_t kOnes = 0x0001000100010001;
-    constexpr std::uint64_t kTops = 0x8000800080008000;
+    return zeros((four & kOnes * wanted.mask) ^ kOnes * wanted.pattern);
+}
+
+std::uint64_t hits(std::uint64_t four, const Either& wanted)
+{
+    return zeros(four ^ kOnes * wanted.a) | zeros(four ^ kOnes * wanted.b);
+}
+
+template <class Wanted>
+const char16_t* skip_steps(const char16_t* first, const char16_t* last, const Wanted& wanted)
+{
     for (; last - first >= 4; first += 4)
-    {
-        const std::uint64_t word = (load(first) & kOnes * mask) ^ kOnes * pattern;
-        if (const std::uint64_t zero = (word - kOnes) & ~word & kTops)
-            return first + std::countr_zero(zero) / 16;
-    }
+        if (const std::uint64_t hit = hits(load(first), wanted))
+            return first + std::countr_zero(hit) / 16;
     return first;
 }
 #endif
 
-const char16_t* find_masked(const char16_t* first, const char16_t* last, char16_t mask, char16_t pattern)
+template <class Wanted>
+const char16_t* find_wanted(const char16_t* first, const char16_t* last, const Wanted& wanted)
 {
-    first = skip_steps(first, last, mask, pattern);
-    while (first != last && (*first & mask) != pattern)
+    first = skip_steps(first, last, wanted);
+    while (first != last && !wanted.holds(*first))
         ++first;
     return first;
 }
@@ -75,12 +113,17 @@ const char16_t* find_masked(const char16_t* first, const char16_t* last, char16_
 
 const char16_t* find(const char16_t* first, const char16_t* last, char16_t unit)
 {
-    return find_masked(first, last, 0xFFFF, unit);
+    return find_wanted(first, last, Masked{0xFFFF, unit});
 }
 
 const char16_t* find_control(const char16_t* first, const char16_t* last)
 {
-    return find_masked(first, last, 0xFFF0, 0);
+    return find_wanted(first, last, Masked{0xFFF0, 0});
+}
+
+const char16_t* find_break(const char16_t* first, const char16_t* last)
+{
+    return find_wanted(first, last, Either{u'\n', u'\r'});
 }
 
 std::uint32_t hash(view text)

@@ -9,7 +9,7 @@
 #include <string_view>
 
 /// Stored text is UTF-16 units of 16 bits on every platform, half of what wide text takes natively. Here
-/// is what the language files need over such runs: four units are looked at in one step.
+/// is what the readers of files need over such runs: four units are looked at in one step.
 namespace units
 {
 using view = std::u16string_view;
@@ -18,6 +18,8 @@ using view = std::u16string_view;
 TARVO_API const char16_t* find(const char16_t* first, const char16_t* last, char16_t unit);
 /// The first unit below 16: line feed, carriage return and NUL are there, letters are not.
 TARVO_API const char16_t* find_control(const char16_t* first, const char16_t* last);
+/// The first line feed or carriage return.
+TARVO_API const char16_t* find_break(const char16_t* first, const char16_t* last);
 
 TARVO_API std::uint32_t hash(view text);
 /// Below, equal to or above zero by the first unit that differs, then by length.

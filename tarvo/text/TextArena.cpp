@@ -1,4 +1,4 @@
-#include "tarvo/lang/TextArena.h"
+#include "tarvo/text/TextArena.h"
 
 #include <algorithm>
 #include <new>

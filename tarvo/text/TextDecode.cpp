@@ -1,0 +1,195 @@
+#include "tarvo/text/TextDecode.h"
+
+#include "platform/codepage.h"
+#include "platform/codepage_block.h"
+#include "tarvo/text/Units.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstring>
+
+namespace
+{
+using platform::codepage::Block;
+using platform::codepage::block_size;
+
+const std::uint8_t* First(std::string_view bytes)
+{
+    return reinterpret_cast<const std::uint8_t*>(bytes.data());
+}
+
+/// Copies the plain ASCII that [\p in, \p end) begins with; in blocks, since most of a script is.
+std::size_t CopyAscii(const std::uint8_t* in, const std::uint8_t* end, char16_t* out)
+{
+    const std::uint8_t* const begin = in;
+    for (; end - in >= block_size && Block(in).ascii(); in += block_size, out += block_size)
+        platform::codepage::widen_block(in, out);
+    while (in != end && *in < 0x80)
+        *out++ = *in++;
+    return static_cast<std::size_t>(in - begin);
+}
+
+std::size_t DecodeUtf16(std::string_view bytes, bool bigEndian, char16_t* out)
+{
+    static_assert(std::endian::native == std::endian::little, "a unit's low byte comes first in memory");
+    const std::size_t units = bytes.size() / 2;
+    if (units != 0)
+        std::memcpy(out, bytes.data(), units * 2);
+    if (bigEndian)
+        for (std::size_t i = 0; i < units; ++i)
+            out[i] = static_cast<char16_t>(out[i] << 8 | out[i] >> 8);
+    return units;
+}
+
+/// How far before a line break a byte can stand that takes the break for a part of its character.
+std::size_t LeadReach() { return platform::codepage::ansi_page() == platform::codepage::utf8 ? 3 : 1; }
+
+bool IsDoubtful(std::string_view bytes, std::size_t lineBreak, std::size_t reach)
+{
+    for (std::size_t i = 1; i <= reach && i <= lineBreak; ++i)
+        if (First(bytes)[lineBreak - i] >= 0x80)
+            return true;
+    return false;
+}
+
+/// The first \p lineBreak behind a byte that may be the start of a character, or the end.
+std::size_t FindDoubtful(std::string_view bytes, char lineBreak, std::size_t reach)
+{
+    std::size_t at = 0;
+    while ((at = bytes.find(lineBreak, at)) != std::string_view::npos && !IsDoubtful(bytes, at, reach))
+        ++at;
+    return std::min(at, bytes.size());
+}
+
+/// Cuts \p bytes at every doubtful \p lineBreak and hands the pieces without it to \p decode, which gives
+/// the units it wrote.
+template <class Decode>
+std::size_t DecodePieces(std::string_view bytes, char lineBreak, std::size_t reach, char16_t* out,
+                         Decode decode)
+{
+    char16_t* const begin = out;
+    while (!bytes.empty())
+    {
+        const std::string_view piece = bytes.substr(0, FindDoubtful(bytes, lineBreak, reach));
+        out += decode(piece, out);
+        bytes.remove_prefix(piece.size());
+        for (; !bytes.empty() && bytes.front() == lineBreak; bytes.remove_prefix(1))
+            *out++ = static_cast<char16_t>(lineBreak);
+    }
+    return static_cast<std::size_t>(out - begin);
+}
+
+/// Line by line as far as the result goes, but in pieces as long as they can be: conversion is quickest
+/// over many lines, and hardly a line ends in half a character.
+std::size_t DecodeAnsi(std::string_view bytes, char16_t* out)
+{
+    const std::size_t reach = LeadReach();
+    return DecodePieces(bytes, '\n', reach, out, [reach](std::string_view lines, char16_t* to) {
+        return DecodePieces(lines, '\r', reach, to, [](std::string_view piece, char16_t* at) {
+            return platform::codepage::decode(platform::codepage::ansi, piece, at).value_or(0);
+        });
+    });
+}
+
+bool IsWide(TextEncoding encoding)
+{
+    return encoding == TextEncoding::Utf16LittleEndian || encoding == TextEncoding::Utf16BigEndian;
+}
+
+std::size_t Decode(TextEncoding encoding, std::string_view bytes, char16_t* out)
+{
+    switch (encoding)
+    {
+    case TextEncoding::Utf16BigEndian:
+        return DecodeUtf16(bytes, true, out);
+    case TextEncoding::Utf16LittleEndian:
+        return DecodeUtf16(bytes, false, out);
+    case TextEncoding::Utf8:
+        return DecodeLenientUtf8(bytes, out);
+    case TextEncoding::Ansi:
+        break;
+    }
+    return DecodeAnsi(bytes, out);
+}
+} // namespace
+
+CTextMark FindTextMark(std::string_view bytes)
+{
+    if (bytes.starts_with("\xFF\xFE"))
+        return {TextEncoding::Utf16LittleEndian, 2};
+    if (bytes.starts_with("\xFE\xFF"))
+        return {TextEncoding::Utf16BigEndian, 2};
+    if (bytes.starts_with("\xEF\xBB\xBF"))
+        return {TextEncoding::Utf8, 3};
+    return {};
+}
+
+std::size_t DecodeLenientUtf8(std::string_view bytes, char16_t* out)
+{
+    const std::uint8_t* in = First(bytes);
+    const std::uint8_t* const end = in + bytes.size();
+    char16_t* const begin = out;
+    while (in != end)
+    {
+        const unsigned first = *in;
+        if (first < 0x80)
+        {
+            const std::size_t copied = CopyAscii(in, end, out);
+            in += copied;
+            out += copied;
+            continue;
+        }
+        const int ones = std::countl_one(static_cast<std::uint8_t>(first));
+        if (ones != 2 && ones != 3)
+        {
+            *out++ = 0xFFFD;
+            ++in;
+            continue;
+        }
+        if (end - in < ones)
+            break;
+        unsigned value = (first & 0x1F) << 6 | (in[1] & 0x3F);
+        if (ones == 3)
+            value = value << 6 | (in[2] & 0x3F);
+        *out++ = static_cast<char16_t>(value);
+        in += ones;
+    }
+    return static_cast<std::size_t>(out - begin);
+}
+
+std::optional<CTextUnits> DecodeText(std::string_view bytes)
+{
+    const CTextMark mark = FindTextMark(bytes);
+    bytes.remove_prefix(mark.length);
+    const std::size_t room = (IsWide(mark.encoding) ? bytes.size() / 2 : bytes.size()) + 1;
+
+    CTextUnits text;
+    text.m_units.reset(static_cast<char16_t*>(std::malloc(room * sizeof(char16_t))));
+    if (!text.m_units)
+        return std::nullopt;
+    text.m_length = Decode(mark.encoding, bytes, text.m_units.get());
+
+    // Give back what was not needed: a text in two or three bytes a character leaves half free.
+    if (void* shrunk = std::realloc(text.m_units.get(), (text.m_length + 1) * sizeof(char16_t)))
+    {
+        static_cast<void>(text.m_units.release());
+        text.m_units.reset(static_cast<char16_t*>(shrunk));
+    }
+    return text;
+}
+
+bool CTextLines::Next(std::u16string_view& line)
+{
+    const char16_t* const end = m_text.data() + m_text.size();
+    const char16_t* const before = m_text.data();
+    const char16_t* at = before;
+    if (at != end && *at == u'\r')
+        ++at;
+    if (at != end && *at == u'\n')
+        ++at;
+    m_lineNumber += at != before;
+    const char16_t* const stop = units::find_break(at, end);
+    line = {at, static_cast<std::size_t>(stop - at)};
+    m_text = {stop, static_cast<std::size_t>(end - stop)};
+    return at != end;
+}

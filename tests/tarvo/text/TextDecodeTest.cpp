@@ -1,0 +1,233 @@
+#include "tarvo/text/TextDecode.h"
+
+#include "platform/codepage.h"
+#include "tarvo/text/AnsiPage.h"
+#include "tarvo/text/Units.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+using namespace std::string_literals;
+
+namespace
+{
+std::u16string Decoded(const std::string& bytes)
+{
+    const auto text = DecodeText(bytes);
+    return text ? std::u16string(text->View()) : u"no memory";
+}
+
+std::vector<std::u16string> Lines(std::u16string_view text)
+{
+    std::vector<std::u16string> lines;
+    CTextLines walker(text);
+    for (std::u16string_view line; walker.Next(line);)
+        lines.emplace_back(line);
+    return lines;
+}
+
+std::vector<std::size_t> Numbers(std::u16string_view text)
+{
+    std::vector<std::size_t> numbers;
+    CTextLines walker(text);
+    for (std::u16string_view line; walker.Next(line);)
+        numbers.push_back(walker.LineNumber());
+    return numbers;
+}
+
+using List = std::vector<std::u16string>;
+
+/// The ANSI page of the process while a test lasts.
+struct AnsiPage
+{
+    explicit AnsiPage(int page) { EXPECT_EQ(SetAnsiCodePage(page), 1); }
+    ~AnsiPage() { SetAnsiCodePage(0); }
+};
+} // namespace
+
+TEST(TextMark, IsTwoOrThreeBytesAndTellsTheEncoding)
+{
+    const struct
+    {
+        std::string bytes;
+        TextEncoding encoding;
+        std::size_t length;
+    } rows[] = {
+        {"\xFF\xFE", TextEncoding::Utf16LittleEndian, 2},
+        {"\xFE\xFF", TextEncoding::Utf16BigEndian, 2},
+        {"\xEF\xBB\xBF", TextEncoding::Utf8, 3},
+        {"\xEF\xBB\xBE", TextEncoding::Ansi, 0},
+        {"\xEF\xBB", TextEncoding::Ansi, 0},
+        {"\xFF", TextEncoding::Ansi, 0},
+        {"\xFE\xFE", TextEncoding::Ansi, 0},
+        {"text", TextEncoding::Ansi, 0},
+        {"", TextEncoding::Ansi, 0},
+    };
+    for (const auto& row : rows)
+    {
+        const CTextMark mark = FindTextMark(row.bytes);
+        EXPECT_EQ(mark.encoding, row.encoding) << testing::PrintToString(row.bytes);
+        EXPECT_EQ(mark.length, row.length) << testing::PrintToString(row.bytes);
+    }
+    EXPECT_EQ(static_cast<int>(TextEncoding::Ansi), 0);
+    EXPECT_EQ(static_cast<int>(TextEncoding::Utf16BigEndian), 1);
+    EXPECT_EQ(static_cast<int>(TextEncoding::Utf16LittleEndian), 2);
+    EXPECT_EQ(static_cast<int>(TextEncoding::Utf8), 3);
+}
+
+TEST(DecodeText, DropsTheMarkAndKeepsTheBreaks)
+{
+    EXPECT_EQ(Decoded("\xFF\xFE"s), u"");
+    EXPECT_EQ(Decoded("\xFF\xFE\x0A\0\x00\xAC"s), u"\n가");
+    EXPECT_EQ(Decoded("\xFE\xFF\0\x0D\0\x0A\xAC\x00"s), u"\r\n가");
+    EXPECT_EQ(Decoded("\xEF\xBB\xBF"
+                      "a\r\n\xEA\xB0\x80"s),
+              u"a\r\n가");
+    EXPECT_EQ(Decoded(""), u"");
+}
+
+TEST(DecodeText, DropsTheOddLastByteOfWideText)
+{
+    EXPECT_EQ(Decoded("\xFF\xFE"
+                      "a\0b"s),
+              u"a");
+    EXPECT_EQ(Decoded("\xFE\xFF\0"s), u"");
+}
+
+TEST(DecodeText, KeepsLoneSurrogatesOfWideText)
+{
+    EXPECT_EQ(Decoded("\xFF\xFE\x00\xD8"s), std::u16string(1, 0xD800));
+}
+
+TEST(DecodeText, ReadsUtf8WithoutAMarkInTheAnsiPage)
+{
+    const AnsiPage page(1252);
+    EXPECT_EQ(Decoded("\xC3\xA4"s), u"Ã¤");
+    EXPECT_EQ(Decoded("\xEF\xBB?"s), u"ï»?") << "no byte of the half mark is lost";
+}
+
+TEST(DecodeText, NeverTakesALineBreakForTheSecondHalfOfACharacter)
+{
+    const AnsiPage page(949);
+    EXPECT_EQ(Decoded("\xB0\xA1\n\xB0\xA1\r\n\xB0\xA1"s), u"가\n가\r\n가");
+    for (const std::string broken : {"\n", "\r", "\r\n", "\n\n", "\r\r\n"})
+    {
+        const auto half = platform::codepage::decode(949, "\xB0");
+        const std::u16string marker(half->begin(), half->end());
+        const std::u16string breaks(broken.begin(), broken.end());
+        EXPECT_EQ(Decoded("a\xB0" + broken + "b\xB0"), u"a" + marker + breaks + u"b" + marker);
+    }
+}
+
+// The pieces that the decoder makes are an optimisation: line by line is the rule.
+TEST(DecodeText, GivesForAnyBytesWhatDecodingEachLineGives)
+{
+    std::mt19937 random(7);
+    for (const int number : {949, 932, 936, 1251, 65001})
+    {
+        const AnsiPage page(number);
+        for (int round = 0; round < 400; ++round)
+        {
+            std::string bytes = "x";
+            for (unsigned length = random() % 200; length != 0; --length)
+                bytes += random() % 6 == 0 ? "\r\n"[random() % 2] : static_cast<char>(random() % 255 + 1);
+            std::u16string wanted;
+            for (std::size_t at = 0; at < bytes.size();)
+            {
+                const std::size_t end = std::min(bytes.find_first_of("\r\n", at), bytes.size());
+                const auto line = platform::codepage::decode(number, bytes.substr(at, end - at));
+                wanted.append(line->begin(), line->end());
+                if (end < bytes.size())
+                    wanted += static_cast<char16_t>(bytes[end]);
+                at = end + 1;
+            }
+            ASSERT_EQ(Decoded(bytes), wanted) << number << ' ' << testing::PrintToString(bytes);
+        }
+    }
+}
+
+TEST(DecodeLenientUtf8, TakesTheCountOfLeadingOneBitsAndChecksNothingElse)
+{
+    const struct
+    {
+        std::string bytes;
+        std::u16string text;
+    } rows[] = {
+        {"\xC3\xA4", u"ä"},
+        {"\xEA\xB0\x80", u"가"},
+        {"\xC3"
+         "A",
+         u"\u00C1"}, // no continuation byte, taken all the same
+        {"\xEA"
+         "AB",
+         u"\xA042"},
+        {"\xC0\x80", std::u16string(1, 0)}, // more bytes than needed
+        {"\xED\xA0\x80", std::u16string(1, 0xD800)},
+        {"\xF0\x9F\x98\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD"},
+        {"\x80x", u"\uFFFDx"},
+        {"\xFF\xFE", u"\uFFFD\uFFFD"},
+        {"a\xC3", u"a"}, // cut off by the end
+        {"a\xEA\xB0", u"a"},
+        {std::string(70, 'a') + "\xC3\xA4" + std::string(70, 'b'),
+         std::u16string(70, u'a') + u"ä" + std::u16string(70, u'b')},
+    };
+    for (const auto& row : rows)
+    {
+        EXPECT_EQ(Decoded("\xEF\xBB\xBF" + row.bytes), row.text) << testing::PrintToString(row.bytes);
+        std::u16string out(row.bytes.size(), u'?');
+        out.resize(DecodeLenientUtf8(row.bytes, out.data()));
+        EXPECT_EQ(out, row.text) << testing::PrintToString(row.bytes);
+    }
+}
+
+TEST(TextLines, EndAtCarriageReturnLineFeedOrBoth)
+{
+    EXPECT_EQ(Lines(u"a\r\n\r\nb"), (List{u"a", u"", u"b"}));
+    EXPECT_EQ(Lines(u"a\n"), (List{u"a"}));
+    EXPECT_EQ(Lines(u"a\n\rb"), (List{u"a", u"", u"b"}));
+    EXPECT_EQ(Lines(u"a\rb"), (List{u"a", u"b"}));
+    EXPECT_EQ(Lines(u"a\n\n"), (List{u"a", u""}));
+    EXPECT_EQ(Lines(u"a\r\r\nb"), (List{u"a", u"", u"b"}));
+    EXPECT_EQ(Lines(u""), List{});
+}
+
+// Passing over what the line before left does not ask whether there was one.
+TEST(TextLines, PassOverABreakAtTheVeryBeginning)
+{
+    EXPECT_EQ(Lines(u"\r\na"), (List{u"a"}));
+    EXPECT_EQ(Lines(u"\na"), (List{u"a"}));
+    EXPECT_EQ(Lines(u"\n"), List{});
+    EXPECT_EQ(Lines(u"\n\na"), (List{u"", u"a"}));
+}
+
+TEST(TextLines, AreAsLongAsTheyAre)
+{
+    const std::u16string line(5000, u'x');
+    EXPECT_EQ(Lines(line + u"\n" + line), (List{line, line}));
+    for (std::size_t length = 1; length < 40; ++length) // every place of a break within the steps looked at
+        EXPECT_EQ(Lines(std::u16string(length, u'\t') + u"\r\n" + line)[0], std::u16string(length, u'\t'));
+}
+
+TEST(TextLines, AreNumberedAsAnEditorDoes)
+{
+    EXPECT_EQ(Numbers(u"a\r\n\r\nb\nc"), (std::vector<std::size_t>{1, 2, 3, 4}));
+    EXPECT_EQ(Numbers(u"\na"), (std::vector<std::size_t>{2}));
+    EXPECT_EQ(Numbers(u"a\n\rb"), (std::vector<std::size_t>{1, 2, 3}));
+}
+
+TEST(TextLines, ReadNothingPastTheEnd)
+{
+    CTextLines lines(u"a");
+    std::u16string_view line;
+    EXPECT_TRUE(lines.Next(line));
+    for (int i = 0; i < 3; ++i)
+    {
+        EXPECT_FALSE(lines.Next(line));
+        EXPECT_EQ(line, u"");
+    }
+    CTextLines none;
+    EXPECT_FALSE(none.Next(line));
+}
