@@ -1,0 +1,92 @@
+#pragma once
+
+#include "tarvo/export.h"
+#include "tarvo/text/Units.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <optional>
+#include <vector>
+
+/// Message texts by key, compared exactly. A record holds key and text side by side in a few large blocks
+/// and is found through one table of hashes, so that a look-up touches two places in memory, filling takes
+/// no allocation for each message, and emptying gives everything back.
+class TARVO_API CMessageStore
+{
+public:
+    struct Message
+    {
+        units::view key;
+        units::view value;
+    };
+
+    CMessageStore() = default;
+    CMessageStore(const CMessageStore& source) { *this = source; }
+    CMessageStore(CMessageStore&& source) noexcept = default;
+    CMessageStore& operator=(const CMessageStore& source);
+    CMessageStore& operator=(CMessageStore&& source) noexcept = default;
+    ~CMessageStore() = default;
+
+    std::size_t GetCount() const { return m_nCount; }
+    /// Bytes taken from the system.
+    std::size_t GetMemory() const;
+
+    /// Adds a message; false, and nothing changes, when there is one with this key.
+    bool Insert(units::view key, units::view value);
+    /// Adds a message or gives it a new text.
+    void Set(units::view key, units::view value);
+    /// The text of a key; valid until the next change.
+    std::optional<units::view> Find(units::view key) const;
+    /// All messages in the ordinal order of their keys; valid until the next change.
+    std::vector<Message> Sorted() const;
+    void Clear() { *this = CMessageStore(); }
+
+private:
+    /// Stands before the units of key and value, on a boundary of its own size's half.
+    struct Record
+    {
+        std::uint32_t keyLength;
+        std::uint32_t valueLength;
+
+        char16_t* Units() const { return reinterpret_cast<char16_t*>(const_cast<Record*>(this) + 1); }
+        units::view Key() const { return {Units(), keyLength}; }
+        units::view Value() const { return {Units() + keyLength, valueLength}; }
+    };
+    /// Where a record is: the block in the upper 16 bits, its place there in grains in the lower.
+    using Ref = std::uint32_t;
+    /// The key's hash in the upper half, the record's Ref plus one in the lower; 0 for an empty slot.
+    using Slot = std::uint64_t;
+
+    static constexpr std::size_t kGrain = alignof(Record);           ///< bytes
+    static constexpr std::size_t kMostBlock = kGrain << 16;          ///< bytes of a block with many records
+    static constexpr std::size_t kFirstBlock = std::size_t{4} << 10; ///< bytes; the next ones grow
+
+    struct Free
+    {
+        void operator()(char* p) const { std::free(p); }
+    };
+    struct Block
+    {
+        std::unique_ptr<char, Free> bytes;
+        std::size_t size;
+        std::size_t used;
+    };
+
+    static std::size_t BytesOf(std::size_t units);
+    Record& At(Slot slot) const;
+    /// The slot of \p key, or the empty one where it belongs.
+    std::size_t SlotOf(units::view key, std::uint32_t hash) const;
+    void Place(std::size_t slot, std::uint32_t hash, units::view key, units::view value);
+    Ref Append(units::view key, units::view value);
+    void AddBlock(std::size_t least);
+    void MakeRoom();
+    void Tidy();
+
+    std::vector<Slot> m_arrSlot;
+    std::vector<Block> m_arrBlock;
+    std::size_t m_nCount = 0;
+    std::size_t m_nUsed = 0; ///< bytes of all records
+    std::size_t m_nDead = 0; ///< of these, bytes of texts that were replaced
+};
