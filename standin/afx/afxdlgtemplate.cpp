@@ -67,17 +67,21 @@ bool IsExtended(const DLGTEMPLATE* p)
     return reinterpret_cast<const ExtendedHead*>(p)->signature == 0xFFFF;
 }
 
-DWORD StyleOf(const DLGTEMPLATE* p)
+} // namespace
+
+DWORD AfxTemplateStyle(const DLGTEMPLATE* p)
 {
     return IsExtended(p) ? reinterpret_cast<const ExtendedHead*>(p)->style : p->style;
 }
 
+namespace
+{
 WORD ItemCount(const DLGTEMPLATE* p)
 {
     return IsExtended(p) ? reinterpret_cast<const ExtendedHead*>(p)->cDlgItems : p->cdit;
 }
 
-bool NamesFont(const DLGTEMPLATE* p) { return (StyleOf(p) & DS_SETFONT) != 0; }
+bool NamesFont(const DLGTEMPLATE* p) { return (AfxTemplateStyle(p) & DS_SETFONT) != 0; }
 
 /// Size, and in the extended form weight, italic and character set: what stands before the face name.
 UINT FontHead(const DLGTEMPLATE* p) { return IsExtended(p) ? 3 * sizeof(WORD) : sizeof(WORD); }

@@ -1,6 +1,8 @@
 #pragma once
 
-/// The framework's extensions: with this header come the frame window and the common controls.
+/// The framework's extensions: form views, and with this header come the common controls.
 
 #include <afxcmn.h>
 #include <afxwin.h>
+
+#include "afxformview.h"

@@ -108,6 +108,8 @@ struct AfxWndAccess
 
 void AfxSetAppModuleState(AFX_MODULE_STATE* pState);
 void AfxInitCommonControls();
+/// Of a template of either form.
+DWORD AfxTemplateStyle(const DLGTEMPLATE* pTemplate);
 /// The message that AfxPumpMessage took last.
 MSG* AfxCurrentMessage();
 BOOL AfxIsIdleMessage(MSG* pMsg);

@@ -4,4 +4,5 @@
 /// colours them.
 
 #include "bcgpdialog.h"
+#include "bcgpformview.h"
 #include "bcgpvisualmanager.h"

@@ -1,6 +1,10 @@
 #define IDD_FORM 100
 #define IDD_SMALL 101
 #define IDD_FAR 102
+#define IDD_VIEW 103
+#define IDD_PAGE1 104
+#define IDD_PAGE2 105
+#define IDD_PAGE3 106
 #define IDR_MENU 110
 #define IDS_GREETING 200
 #define IDS_COMPANY 201
@@ -19,3 +23,6 @@
 #define ID_VIEW_GRID 0x8003
 #define ID_VIEW_MODE1 0x8004
 #define ID_VIEW_MODE2 0x8005
+#define IDR_FRAME 111
+#define IDS_SHEET 202
+#define IDS_TAB 203
