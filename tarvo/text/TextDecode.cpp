@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstring>
+#include <utility>
 
 namespace
 {
@@ -29,7 +30,7 @@ std::size_t CopyAscii(const std::uint8_t* in, const std::uint8_t* end, char16_t*
     return static_cast<std::size_t>(in - begin);
 }
 
-std::size_t DecodeUtf16(std::string_view bytes, bool bigEndian, char16_t* out)
+std::size_t DecodeUtf16(std::string_view& bytes, bool bigEndian, char16_t* out)
 {
     static_assert(std::endian::native == std::endian::little, "a unit's low byte comes first in memory");
     const std::size_t units = bytes.size() / 2;
@@ -38,7 +39,42 @@ std::size_t DecodeUtf16(std::string_view bytes, bool bigEndian, char16_t* out)
     if (bigEndian)
         for (std::size_t i = 0; i < units; ++i)
             out[i] = static_cast<char16_t>(out[i] << 8 | out[i] >> 8);
+    bytes.remove_prefix(2 * units);
     return units;
+}
+
+std::size_t DecodeUtf8(std::string_view& bytes, char16_t* out)
+{
+    const std::uint8_t* in = First(bytes);
+    const std::uint8_t* const end = in + bytes.size();
+    char16_t* const begin = out;
+    while (in != end)
+    {
+        const unsigned first = *in;
+        if (first < 0x80)
+        {
+            const std::size_t copied = CopyAscii(in, end, out);
+            in += copied;
+            out += copied;
+            continue;
+        }
+        const int ones = std::countl_one(static_cast<std::uint8_t>(first));
+        if (ones != 2 && ones != 3)
+        {
+            *out++ = 0xFFFD;
+            ++in;
+            continue;
+        }
+        if (end - in < ones)
+            break;
+        unsigned value = (first & 0x1F) << 6 | (in[1] & 0x3F);
+        if (ones == 3)
+            value = value << 6 | (in[2] & 0x3F);
+        *out++ = static_cast<char16_t>(value);
+        in += ones;
+    }
+    bytes.remove_prefix(bytes.size() - static_cast<std::size_t>(end - in));
+    return static_cast<std::size_t>(out - begin);
 }
 
 /// How far before a line break a byte can stand that takes the break for a part of its character.
@@ -96,21 +132,6 @@ bool IsWide(TextEncoding encoding)
     return encoding == TextEncoding::Utf16LittleEndian || encoding == TextEncoding::Utf16BigEndian;
 }
 
-std::size_t Decode(TextEncoding encoding, std::string_view bytes, char16_t* out)
-{
-    switch (encoding)
-    {
-    case TextEncoding::Utf16BigEndian:
-        return DecodeUtf16(bytes, true, out);
-    case TextEncoding::Utf16LittleEndian:
-        return DecodeUtf16(bytes, false, out);
-    case TextEncoding::Utf8:
-        return DecodeLenientUtf8(bytes, out);
-    case TextEncoding::Ansi:
-        break;
-    }
-    return DecodeAnsi(bytes, out);
-}
 } // namespace
 
 CTextMark FindTextMark(std::string_view bytes)
@@ -124,37 +145,22 @@ CTextMark FindTextMark(std::string_view bytes)
     return {};
 }
 
-std::size_t DecodeLenientUtf8(std::string_view bytes, char16_t* out)
+std::size_t DecodeLenientUtf8(std::string_view bytes, char16_t* out) { return DecodeUtf8(bytes, out); }
+
+std::size_t DecodeTextPart(TextEncoding encoding, std::string_view& bytes, char16_t* out)
 {
-    const std::uint8_t* in = First(bytes);
-    const std::uint8_t* const end = in + bytes.size();
-    char16_t* const begin = out;
-    while (in != end)
+    switch (encoding)
     {
-        const unsigned first = *in;
-        if (first < 0x80)
-        {
-            const std::size_t copied = CopyAscii(in, end, out);
-            in += copied;
-            out += copied;
-            continue;
-        }
-        const int ones = std::countl_one(static_cast<std::uint8_t>(first));
-        if (ones != 2 && ones != 3)
-        {
-            *out++ = 0xFFFD;
-            ++in;
-            continue;
-        }
-        if (end - in < ones)
-            break;
-        unsigned value = (first & 0x1F) << 6 | (in[1] & 0x3F);
-        if (ones == 3)
-            value = value << 6 | (in[2] & 0x3F);
-        *out++ = static_cast<char16_t>(value);
-        in += ones;
+    case TextEncoding::Utf16BigEndian:
+        return DecodeUtf16(bytes, true, out);
+    case TextEncoding::Utf16LittleEndian:
+        return DecodeUtf16(bytes, false, out);
+    case TextEncoding::Utf8:
+        return DecodeUtf8(bytes, out);
+    case TextEncoding::Ansi:
+        break;
     }
-    return static_cast<std::size_t>(out - begin);
+    return DecodeAnsi(std::exchange(bytes, {}), out);
 }
 
 std::optional<CTextUnits> DecodeText(std::string_view bytes)
@@ -167,7 +173,7 @@ std::optional<CTextUnits> DecodeText(std::string_view bytes)
     text.m_units.reset(static_cast<char16_t*>(std::malloc(room * sizeof(char16_t))));
     if (!text.m_units)
         return std::nullopt;
-    text.m_length = Decode(mark.encoding, bytes, text.m_units.get());
+    text.m_length = DecodeTextPart(mark.encoding, bytes, text.m_units.get());
 
     // Give back what was not needed: a text in two or three bytes a character leaves half free.
     if (void* shrunk = std::realloc(text.m_units.get(), (text.m_length + 1) * sizeof(char16_t)))

@@ -34,6 +34,11 @@ TARVO_API CTextMark FindTextMark(std::string_view bytes);
 /// byte, so a four-byte sequence gives four of them. A sequence cut off by the end gives nothing.
 TARVO_API std::size_t DecodeLenientUtf8(std::string_view bytes, char16_t* out);
 
+/// Decodes the whole characters that \p bytes begins with into \p out, which has room for bytes.size()
+/// units, and takes them off \p bytes: what stays, at most two bytes, is a character whose rest follows in
+/// the file. In ANSI nothing stays, so there \p bytes are whole lines.
+TARVO_API std::size_t DecodeTextPart(TextEncoding encoding, std::string_view& bytes, char16_t* out);
+
 /// A whole text in UTF-16 units, in one block that owns itself.
 class CTextUnits
 {

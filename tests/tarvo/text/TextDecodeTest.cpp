@@ -1,8 +1,8 @@
 #include "tarvo/text/TextDecode.h"
 
 #include "platform/codepage.h"
-#include "tarvo/text/AnsiPage.h"
 #include "tarvo/text/Units.h"
+#include "tests/tarvo/text/AnsiPage.h"
 
 #include <gtest/gtest.h>
 
@@ -39,13 +39,6 @@ std::vector<std::size_t> Numbers(std::u16string_view text)
 }
 
 using List = std::vector<std::u16string>;
-
-/// The ANSI page of the process while a test lasts.
-struct AnsiPage
-{
-    explicit AnsiPage(int page) { EXPECT_EQ(SetAnsiCodePage(page), 1); }
-    ~AnsiPage() { SetAnsiCodePage(0); }
-};
 } // namespace
 
 TEST(TextMark, IsTwoOrThreeBytesAndTellsTheEncoding)
