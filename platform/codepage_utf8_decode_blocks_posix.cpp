@@ -62,12 +62,10 @@ public:
     {
         for (int i = 0; i < 4; ++i)
             m_part[i] = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes) + i);
-        const std::uint64_t below_c2 = from_80_below(0xC2), below_e0 = from_80_below(0xE0);
-        const std::uint64_t below_f0 = from_80_below(0xF0);
         m_trails = from_80_below(0xC0);
-        m_leads2 = below_e0 & ~below_c2;
-        m_leads3 = below_f0 & ~below_e0;
-        m_others = (high() & ~below_f0) | (below_c2 & ~m_trails);
+        const std::uint64_t below_e0 = from_80_below(0xE0);
+        m_leads2 = below_e0 & ~m_trails;
+        m_leads3 = high() & ~below_e0;
     }
 
     std::uint64_t trails() const { return m_trails; }
@@ -78,7 +76,7 @@ public:
     bool well_formed() const
     {
         const std::uint64_t expected = (m_leads2 | m_leads3) << 1 | m_leads3 << 2;
-        return ((expected ^ m_trails) | m_others) == 0 && !has_long_form_or_surrogate();
+        return expected == m_trails && !has_other_byte() && !has_long_form_or_surrogate();
     }
 
     /// Where the last character ends that is in the block whole.
@@ -107,6 +105,21 @@ private:
         return mask;
     }
 
+    /// 0xC0, 0xC1 or one from 0xF0 up.
+    bool has_other_byte() const
+    {
+        const __m128i c0 = _mm_set1_epi8(static_cast<char>(0xC0)),
+                      ef = _mm_set1_epi8(static_cast<char>(0xEF));
+        const __m128i not_lowest = _mm_set1_epi8(static_cast<char>(0xFE));
+        __m128i found = _mm_setzero_si128();
+        for (const __m128i& part : m_part)
+        {
+            found = _mm_or_si128(found, _mm_subs_epu8(part, ef));
+            found = _mm_or_si128(found, _mm_cmpeq_epi8(_mm_and_si128(part, not_lowest), c0));
+        }
+        return _mm_movemask_epi8(_mm_cmpeq_epi8(found, _mm_setzero_si128())) != 0xFFFF;
+    }
+
     /// 0xE0 before a trail byte below 0xA0, 0xED before another.
     bool has_long_form_or_surrogate() const
     {
@@ -128,7 +141,7 @@ private:
 
     const std::uint8_t* m_bytes;
     __m128i m_part[4];
-    std::uint64_t m_trails, m_leads2, m_leads3, m_others;
+    std::uint64_t m_trails, m_leads2, m_leads3;
 };
 
 inline void store8(__m128i units, char16_t* out) { _mm_storeu_si128(reinterpret_cast<__m128i*>(out), units); }

@@ -6,7 +6,7 @@
 
 CIniStore::CIniStore(const CIniStore& source)
 {
-    char16_t* room = m_texts.Add(source.GetTextSize());
+    char16_t* room = m_texts.Add(source.GetSize());
     for (const CKeyTable& from : source.m_arrSection)
     {
         CKeyTable& to = Make(from.Name());
@@ -47,7 +47,7 @@ CKeyTable& CIniStore::Make(units::view name)
         return *table;
     if (m_arrSection.size() + 1 > m_arrSlot.size() / 4 * 3)
         Index(std::max<std::size_t>(8, 2 * m_arrSlot.size()));
-    CKeyTable& made = m_arrSection.emplace_back(m_names.Copy(name), m_texts);
+    CKeyTable& made = m_arrSection.emplace_back(name, m_texts);
     const std::uint32_t hash = units::hash(name);
     Place(hash) = {hash, &made};
     return made;
@@ -79,11 +79,11 @@ CIniStore::Slot& CIniStore::Place(std::uint32_t hash)
     return m_arrSlot[slot];
 }
 
-std::size_t CIniStore::GetTextSize() const
+std::size_t CIniStore::GetSize() const
 {
     std::size_t size = 0;
     for (const CKeyTable& table : m_arrSection)
-        size += table.GetTextSize();
+        size += table.GetSize();
     return size;
 }
 
@@ -91,7 +91,7 @@ void CIniStore::Tidy()
 {
     if (m_texts.GetSize() < m_nTidyAt)
         return;
-    const std::size_t live = GetTextSize();
+    const std::size_t live = GetSize();
     if (live < m_texts.GetSize() / 2)
     {
         CTextArena fresh;

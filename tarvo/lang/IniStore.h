@@ -6,8 +6,8 @@
 #include <string>
 
 /// The sections of one INI document: found by exact name, listed in ordinal order, each at an address of
-/// its own for as long as the store lives. Large texts lie in the store as they were decoded and the
-/// entries point into them, so loading takes no memory for single keys.
+/// its own for as long as the store lives. The entries of all of them
+/// share the memory of one arena, so loading allocates nothing for single keys.
 class CIniStore
 {
 public:
@@ -24,9 +24,7 @@ public:
     /// The section of this copy that stands for \p table of \p source, from which it was copied.
     CKeyTable* Twin(const CIniStore& source, const CKeyTable* table);
 
-    /// Where to put a text that is to be parsed, \p count units at most.
-    char16_t* AddText(std::size_t count) { return m_texts.Add(count); }
-    /// Moves the texts together when most of their memory holds replaced ones. Not during a parse.
+    /// Moves the entries together when most of their memory holds replaced ones. Not during a parse.
     void Tidy();
 
     /// The whole document as UTF-16LE with its mark, sections and keys in order.
@@ -39,14 +37,13 @@ private:
         CKeyTable* table; ///< null in a free slot
     };
 
-    std::size_t GetTextSize() const;
+    std::size_t GetSize() const;
     void Index(std::size_t slots);
     Slot& Place(std::uint32_t hash);
 
     static constexpr std::size_t kTidyLeast = 65536;
 
     CTextArena m_texts;
-    CTextArena m_names;
     std::size_t m_nTidyAt = kTidyLeast; ///< units in m_texts from which a look at their use is due
     mutable std::deque<CKeyTable> m_arrSection;
     std::vector<Slot> m_arrSlot;

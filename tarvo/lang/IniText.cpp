@@ -3,36 +3,48 @@
 #include "platform/codepage.h"
 #include "platform/letters.h"
 
-#include <algorithm>
 #include <cstring>
 #include <limits>
 
 namespace initext
 {
-bool CLineReader::ReadALine(units::view& line)
+bool CLineReader::ReadALine(units::view& line, LineMarks& marks)
 {
+    marks = {};
     char16_t* const begin = m_p;
+    const char16_t* stop = MarkLine(begin, m_pEnd, marks);
+    while (stop != m_pEnd && *stop != u'\n' && *stop != u'\r' && *stop != u'\0')
+        stop = MarkLine(stop + 1, m_pEnd, marks);
+    const bool returned = m_pEnd - stop >= 2 && stop[0] == u'\r' && stop[1] == u'\n';
+    if (stop != m_pEnd && *stop == u'\r' && !returned)
+    {
+        const bool more = CloseUp(begin, line);
+        marks = MarkLine(line);
+        return more;
+    }
+    const bool fed = returned || (stop != m_pEnd && *stop == u'\n');
+    line = units::trim({begin, static_cast<std::size_t>(stop - begin)});
+    m_p = begin + (stop - begin) + returned + fed;
+    return fed || stop != begin;
+}
+
+/// Reads a line with carriage returns inside: each is dropped and what follows it moves up.
+bool CLineReader::CloseUp(char16_t* begin, units::view& line)
+{
     char16_t* end = begin;
     bool fed = false;
-    while (!fed)
+    while (!fed && m_p != m_pEnd && *m_p != u'\0')
     {
-        const std::size_t plain = units::find_control(m_p, m_pEnd) - m_p;
-        if (end != m_p)
-            std::copy(m_p, m_p + plain, end);
-        end += plain;
-        m_p += plain;
-        if (m_p == m_pEnd || *m_p == u'\0')
-            break;
-        const char16_t control = *m_p++;
-        fed = control == u'\n';
-        if (!fed && control != u'\r')
-            *end++ = control;
+        const char16_t unit = *m_p++;
+        fed = unit == u'\n';
+        if (!fed && unit != u'\r')
+            *end++ = unit;
     }
     line = units::trim({begin, static_cast<std::size_t>(end - begin)});
     return fed || end != begin;
 }
 
-LINE_TYPE GetLineType(units::view line)
+LINE_TYPE GetLineType(units::view line, const LineMarks& marks)
 {
     if (line.empty())
         return LINE_BLANK;
@@ -40,8 +52,7 @@ LINE_TYPE GetLineType(units::view line)
         return LINE_SECTION;
     if (line.front() == u';')
         return LINE_COMMENT;
-    const char16_t* end = line.data() + line.size();
-    return units::find(line.data(), end, u'=') != end ? LINE_DATA : LINE_OTHER;
+    return marks.equals ? LINE_DATA : LINE_OTHER;
 }
 
 units::view ParseSection(units::view line)
@@ -55,29 +66,26 @@ namespace
 units::view CutRemark(units::view key)
 {
     constexpr units::view kMarker = u"/**/";
-    const char16_t* end = key.data() + key.size();
-    if (units::find(key.data(), end, u'/') == end)
-        return key;
     const std::size_t marker = key.find(kMarker);
     return marker == units::view::npos ? key : key.substr(marker + kMarker.size());
 }
 } // namespace
 
-bool ParseData(units::view line, units::view& key, units::view& value)
+bool ParseData(units::view line, const LineMarks& marks, units::view& key, units::view& value)
 {
-    if (line.empty() || line.front() == u';' || line.front() == u'[')
+    if (line.empty() || line.front() == u';' || line.front() == u'[' || !marks.equals)
         return false;
-    const char16_t* const end = line.data() + line.size();
-    const std::size_t equals = units::find(line.data(), end, u'=') - line.data();
-    if (equals == line.size())
-        return false;
-    key = units::trim(CutRemark(line.substr(0, equals)));
+    key = line.substr(0, static_cast<std::size_t>(marks.equals - line.data()));
+    key = units::trim(marks.slash ? CutRemark(key) : key);
     value = line.substr(key.size() + 1);
-    const std::size_t first = units::find(value.data(), end, u'"') - value.data();
-    if (first == value.size())
+    if (!marks.lastQuote || marks.lastQuote < value.data())
         return true;
-    const std::size_t last = value.rfind(u'"');
-    value = value.substr(first + 1, last == first ? units::view::npos : last - first - 1);
+    // A quote can stand in front of the field, in the key or in a remark.
+    const char16_t* const end = line.data() + line.size();
+    const char16_t* const first =
+        marks.quote < value.data() ? units::find(value.data(), end, u'"') : marks.quote;
+    const char16_t* const last = first == marks.lastQuote ? end : marks.lastQuote;
+    value = {first + 1, static_cast<std::size_t>(last - first - 1)};
     return true;
 }
 

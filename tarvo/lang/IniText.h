@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tarvo/export.h"
+#include "tarvo/lang/LineMarks.h"
 #include "tarvo/text/Units.h"
 
 #include <cstddef>
@@ -26,26 +27,30 @@ class TARVO_API CLineReader
 public:
     CLineReader(char16_t* text, std::size_t count) : m_p(text), m_pEnd(text + count) {}
 
-    /// The next line, trimmed; false at the end of the text, which is a NUL or the bound.
-    bool ReadALine(units::view& line);
+    /// The next line, trimmed, and its marks; false at the end of the text, which is a NUL or the bound.
+    bool ReadALine(units::view& line, LineMarks& marks);
+    /// False while units are left, behind a NUL too.
+    bool IsAtEnd() const { return m_p == m_pEnd; }
 
 private:
+    bool CloseUp(char16_t* begin, units::view& line);
+
     char16_t* m_p;
     char16_t* m_pEnd;
 };
 
-/// The kind of a trimmed line.
-TARVO_API LINE_TYPE GetLineType(units::view line);
+/// The kind of a trimmed line with its marks.
+TARVO_API LINE_TYPE GetLineType(units::view line, const LineMarks& marks);
 
 /// The name between the brackets of a section line, trimmed; empty when there is none.
 TARVO_API units::view ParseSection(units::view line);
 
-/// Splits a trimmed line at its first "=". A remark that ends with "/**/" is cut off the key's front. The
-/// value lies between the first and the last double quote; with one quote it is what follows it, with
-/// none the whole field. The field is counted from the line's end by the length of the trimmed key, so
+/// Splits a trimmed line with its marks at its first "=". A remark that ends with "/**/" is cut off the key's
+/// front. The value lies between the first and the last double quote; with one quote it is what follows it,
+/// with none the whole field. The field is counted from the line's end by the length of the trimmed key, so
 /// in «key = x» it is «= x»; written files quote every value, which makes that harmless.
 /// False for an empty line, a comment, a line that begins with "[" and one without "=".
-TARVO_API bool ParseData(units::view line, units::view& key, units::view& value);
+TARVO_API bool ParseData(units::view line, const LineMarks& marks, units::view& key, units::view& value);
 
 /// The first character behind the blanks (U+0020) and tabs at \p psz.
 TARVO_API const wchar_t* SkipWhiteSpace(const wchar_t* psz);

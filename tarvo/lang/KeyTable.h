@@ -1,35 +1,24 @@
 #pragma once
 
 #include "tarvo/export.h"
+#include "tarvo/lang/EntryBlock.h"
 #include "tarvo/text/TextArena.h"
 #include "tarvo/text/Units.h"
 
 #include <cstdint>
 #include <vector>
 
-/// One key of a section with its value; both texts live in the document's arena.
-struct IniEntry
-{
-    const char16_t* key;
-    const char16_t* value;
-    std::uint32_t keyLength;
-    std::uint32_t valueLength;
-
-    units::view Key() const { return {key, keyLength}; }
-    units::view Value() const { return {value, valueLength}; }
-};
-
 /// The keys and values of one section, as XIni::GetSection hands them out. It belongs to its document and
 /// stays at its address until the document is cleared. Keys are compared exactly, with letter case.
 class TARVO_API CKeyTable
 {
 public:
-    CKeyTable(units::view name, CTextArena& texts) : m_strName(name), m_pTexts(&texts) {}
+    CKeyTable(units::view name, CTextArena& texts) : m_block(name), m_pTexts(&texts) {}
     CKeyTable(const CKeyTable&) = delete;
     CKeyTable& operator=(const CKeyTable&) = delete;
 
-    CString GetName() const { return units::to_string(m_strName); }
-    int GetCount() const { return static_cast<int>(m_arrEntry.size()); }
+    CString GetName() const { return units::to_string(Name()); }
+    int GetCount() const { return static_cast<int>(m_block.GetCount()); }
     /// 1 and the value of \p key, or 0 with \p value as it was.
     int Lookup(const wchar_t* key, CString& value) const;
     /// Key and value number \p index, 0 to GetCount() - 1, in the ordinal order of the keys.
@@ -38,34 +27,33 @@ public:
     void SetAt(const wchar_t* key, const wchar_t* value);
 
     /// The same over units. What Name, Find and Sorted give is valid until the next change.
-    units::view Name() const { return m_strName; }
+    units::view Name() const { return m_block.GetName(); }
     const IniEntry* Find(units::view key) const;
     const IniEntry& Sorted(std::size_t index) const;
     void Set(units::view key, units::view value);
-    /// Inserts entries whose texts are in the arena already; the last of several with one key wins.
+    /// An entry in this document's arena, which is to be merged.
+    IniEntry MakeEntry(units::view key, units::view value) { return {*m_pTexts, key, value}; }
+    /// Takes entries in; the last of several with one key wins.
     void Merge(const std::vector<IniEntry>& entries);
-    /// Units that keys and values take.
+    /// Units of all keys and values.
     std::size_t GetTextSize() const { return m_nTextSize; }
+    /// Units that the entries take in the arena.
+    std::size_t GetSize() const { return m_nTextSize + m_block.GetCount() * IniEntry::kHead; }
     /// Takes over the entries of another document's table; MoveTexts has to follow.
     void CopyEntries(const CKeyTable& source);
-    /// Moves every text to \p room, which has GetTextSize units, and returns what lies behind them.
+    /// Moves every entry to \p room, which has GetSize() units, and returns what lies behind them.
     char16_t* MoveTexts(char16_t* room);
 
 private:
     IniEntry* Find(units::view key, std::uint32_t hash);
-    void Insert(const IniEntry& entry, std::uint32_t hash);
-    void Assign(IniEntry& entry, units::view value);
+    void Insert(IniEntry entry, std::uint32_t hash);
     void Index(std::size_t slots);
 
-    // What a look-up in a short section reads stands first, in one line of the processor's cache.
-    alignas(64) units::view m_strName;
-    /// 16 bits of each key's hash: a short section is searched by running over these.
-    std::vector<char16_t> m_arrTag;
-    std::vector<IniEntry> m_arrEntry;
+    CEntryBlock m_block;
     CTextArena* m_pTexts;
+    std::size_t m_nTextSize = 0;
     /// Positions plus one by hash, open addressing; only sections of more than kShort keys have it.
     std::vector<std::uint32_t> m_arrSlot;
-    /// Positions in the order of the keys, made when asked for; shorter than m_arrEntry when out of date.
+    /// Positions in the order of the keys, made when asked for; shorter than the block when out of date.
     mutable std::vector<std::uint32_t> m_arrOrder;
-    std::size_t m_nTextSize = 0;
 };

@@ -92,7 +92,7 @@ catch (const std::bad_alloc&)
 namespace
 {
 /// How much of a source is decoded before its lines are read: so little that it is still in the cache.
-constexpr std::size_t kPiece = 64 * 1024;
+constexpr std::size_t kPiece = 16 * 1024;
 
 /// The length of the next piece of 8-bit text: up to a line's end. A line feed behind a byte of 128 or more
 /// could be that byte's second half in a broken text, so it ends no piece.
@@ -108,27 +108,19 @@ std::size_t PieceOf(std::string_view bytes)
     }
     return bytes.size();
 }
-
-IniEntry MakeEntry(units::view key, units::view value)
-{
-    return {key.data(), value.data(), static_cast<std::uint32_t>(key.size()),
-            static_cast<std::uint32_t>(value.size())};
-}
 } // namespace
 
-/// Parses one text, handed over in pieces that end at a line's end.
+/// Parses one text, handed over piece by piece, each of which ends at a line's end.
 class XIni::CParser
 {
 public:
     explicit CParser(XIni& ini) : m_ini(ini) { m_entries.reserve(64); }
 
-    /// Takes the text that was last put into the document's store.
-    void Take(char16_t* text, std::size_t count)
-    {
-        initext::CLineReader reader(text, count);
-        for (units::view line; reader.ReadALine(line);)
-            TakeLine(line);
-    }
+    /// Parses \p count units, which it changes; false when a NUL among them ends the text.
+    bool Take(char16_t* text, std::size_t count);
+    /// The same for \p count units of a longer text, which \p copy (out, first, count) puts in place.
+    template <class Copy>
+    void TakeAll(std::size_t count, Copy copy);
     void Finish()
     {
         CloseSection();
@@ -137,28 +129,7 @@ public:
     }
 
 private:
-    void TakeLine(units::view line)
-    {
-        units::view key, value;
-        switch (initext::GetLineType(line))
-        {
-        case initext::LINE_SECTION:
-            CloseSection();
-            m_pSection = m_ini.StartSection(initext::ParseSection(line));
-            break;
-        case initext::LINE_DATA:
-            if (m_pSection && initext::ParseData(line, key, value))
-                m_entries.push_back(MakeEntry(key, value));
-            break;
-        case initext::LINE_OTHER:
-            if (m_pSection)
-                m_entries.push_back(MakeEntry(line, line.substr(line.size())));
-            break;
-        case initext::LINE_COMMENT:
-        case initext::LINE_BLANK:
-            break;
-        }
-    }
+    void TakeLine(units::view line, const initext::LineMarks& marks);
     void CloseSection()
     {
         if (m_pSection)
@@ -171,14 +142,68 @@ private:
     std::vector<IniEntry> m_entries; ///< of the current section
 };
 
+bool XIni::CParser::Take(char16_t* text, std::size_t count)
+{
+    initext::CLineReader reader(text, count);
+    initext::LineMarks marks;
+    for (units::view line; reader.ReadALine(line, marks);)
+        TakeLine(line, marks);
+    return reader.IsAtEnd();
+}
+
+template <class Copy>
+void XIni::CParser::TakeAll(std::size_t count, Copy copy)
+{
+    std::vector<char16_t> piece;
+    std::size_t held = 0;
+    for (std::size_t at = 0; at < count;)
+    {
+        const std::size_t more = std::min(kPiece, count - at);
+        piece.resize(std::max(piece.size(), held + more));
+        copy(piece.data() + held, at, more);
+        at += more;
+        const units::view fresh(piece.data() + held, more);
+        const std::size_t feed = fresh.rfind(u'\n');
+        const std::size_t whole = at == count ? held + more : feed == units::view::npos ? 0 : held + feed + 1;
+        held += more;
+        if (!Take(piece.data(), whole))
+            return;
+        std::copy(piece.data() + whole, piece.data() + held, piece.data());
+        held -= whole;
+    }
+}
+
+void XIni::CParser::TakeLine(units::view line, const initext::LineMarks& marks)
+{
+    units::view key, value;
+    switch (initext::GetLineType(line, marks))
+    {
+    case initext::LINE_SECTION:
+        CloseSection();
+        m_pSection = m_ini.StartSection(initext::ParseSection(line));
+        break;
+    case initext::LINE_DATA:
+        if (m_pSection && initext::ParseData(line, marks, key, value))
+            m_entries.push_back(m_pSection->MakeEntry(key, value));
+        break;
+    case initext::LINE_OTHER:
+        if (m_pSection)
+            m_entries.push_back(m_pSection->MakeEntry(line, {}));
+        break;
+    case initext::LINE_COMMENT:
+    case initext::LINE_BLANK:
+        break;
+    }
+}
+
 int XIni::OpenMemory(const wchar_t* text, int length)
 try
 {
     const std::size_t count = text && length > 0 ? ::wcsnlen(text, static_cast<std::size_t>(length)) : 0;
-    char16_t* const units = m_pStore->AddText(count);
-    units::narrow(text, count, units);
     CParser parser(*this);
-    parser.Take(units, count);
+    parser.TakeAll(count, [text](char16_t* out, std::size_t first, std::size_t more) {
+        units::narrow(text + first, more, out);
+    });
     parser.Finish();
     return 1;
 }
@@ -193,11 +218,11 @@ int XIni::ParseBytes(std::string_view bytes)
         return 0;
     if (!initext::IsUnicodeFileHeader(bytes))
         return Ascii2Unicode(bytes);
-    const std::size_t count = (bytes.size() - 2) / 2;
-    char16_t* const text = m_pStore->AddText(count);
-    std::memcpy(text, bytes.data() + 2, count * sizeof *text);
+    const char* const text = bytes.data() + 2;
     CParser parser(*this);
-    parser.Take(text, count);
+    parser.TakeAll((bytes.size() - 2) / 2, [text](char16_t* out, std::size_t first, std::size_t more) {
+        std::memcpy(out, text + 2 * first, 2 * more);
+    });
     parser.Finish();
     return 1;
 }
@@ -215,9 +240,8 @@ int XIni::Ascii2Unicode(std::string_view bytes)
         bytes.remove_prefix(piece.size());
         decoded.resize(std::max(decoded.size(), piece.size()));
         const std::size_t count = platform::codepage::decode(m_nCodePage, piece, decoded.data()).value_or(0);
-        char16_t* const text = m_pStore->AddText(count);
-        std::copy_n(decoded.data(), count, text);
-        parser.Take(text, count);
+        if (!parser.Take(decoded.data(), count))
+            break;
     }
     parser.Finish();
     return 1;

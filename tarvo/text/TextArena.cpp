@@ -5,8 +5,9 @@
 
 namespace
 {
-constexpr std::size_t kShared = 2048; ///< units of a block for small texts
-}
+constexpr std::size_t kLeast = 2048; ///< units of a block for small texts
+constexpr std::size_t kMost = 32768;
+} // namespace
 
 void CTextArena::AddBlock(std::size_t count)
 {
@@ -24,7 +25,7 @@ void CTextArena::AddBlock(std::size_t count)
 char16_t* CTextArena::Add(std::size_t count)
 {
     if (m_arrBlock.empty() || count > m_nBlock - m_nUsed)
-        AddBlock(count > kShared / 4 ? count : kShared);
+        AddBlock(std::max(count, std::clamp(m_nSize / 8, kLeast, kMost)));
     m_nUsed += count;
     return m_arrBlock.back().get() + m_nUsed - count;
 }

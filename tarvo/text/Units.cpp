@@ -24,12 +24,11 @@ std::uint64_t load(const char16_t* p)
     return word;
 }
 
-/// Units whose bits under the mask equal the pattern.
-struct Masked
+/// The unit that is looked for.
+struct One
 {
-    char16_t mask;
-    char16_t pattern;
-    bool holds(char16_t unit) const { return (unit & mask) == pattern; }
+    char16_t unit;
+    bool holds(char16_t other) const { return other == unit; }
 };
 
 /// Two units that are looked for at once.
@@ -43,10 +42,7 @@ struct Either
 #if defined(__SSE2__)
 __m128i all(char16_t unit) { return _mm_set1_epi16(static_cast<short>(unit)); }
 
-__m128i hits(__m128i eight, const Masked& wanted)
-{
-    return _mm_cmpeq_epi16(_mm_and_si128(eight, all(wanted.mask)), all(wanted.pattern));
-}
+__m128i hits(__m128i eight, const One& wanted) { return _mm_cmpeq_epi16(eight, all(wanted.unit)); }
 
 __m128i hits(__m128i eight, const Either& wanted)
 {
@@ -81,10 +77,7 @@ constexpr std::uint64_t kOnes = 0x0001000100010001;
 /// The top bit of every unit that is 0, and perhaps of some above one that is.
 std::uint64_t zeros(std::uint64_t four) { return (four - kOnes) & ~four & kOnes << 15; }
 
-std::uint64_t hits(std::uint64_t four, const Masked& wanted)
-{
-    return zeros((four & kOnes * wanted.mask) ^ kOnes * wanted.pattern);
-}
+std::uint64_t hits(std::uint64_t four, const One& wanted) { return zeros(four ^ kOnes * wanted.unit); }
 
 std::uint64_t hits(std::uint64_t four, const Either& wanted)
 {
@@ -113,12 +106,7 @@ const char16_t* find_wanted(const char16_t* first, const char16_t* last, const W
 
 const char16_t* find(const char16_t* first, const char16_t* last, char16_t unit)
 {
-    return find_wanted(first, last, Masked{0xFFFF, unit});
-}
-
-const char16_t* find_control(const char16_t* first, const char16_t* last)
-{
-    return find_wanted(first, last, Masked{0xFFF0, 0});
+    return find_wanted(first, last, One{unit});
 }
 
 const char16_t* find_break(const char16_t* first, const char16_t* last)
@@ -129,22 +117,26 @@ const char16_t* find_break(const char16_t* first, const char16_t* last)
 std::uint32_t hash(view text)
 {
     constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15;
-    const char16_t* const p = text.data();
-    const std::size_t size = text.size();
-    std::uint64_t h = size * kFactor;
-    const auto mix = [&h](std::uint64_t word) {
-        h = (h ^ word) * kFactor;
-        h ^= h >> 32;
+    const auto mix = [](std::uint64_t a, std::uint64_t b) {
+        __extension__ const unsigned __int128 product = static_cast<unsigned __int128>(a) * b;
+        return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
     };
-    std::size_t i = 0;
-    for (; i + 4 <= size; i += 4)
-        mix(load(p + i));
-    // The last word overlaps the one before it, so that it is a whole one.
-    if (i < size && size >= 4)
-        mix(load(p + size - 4));
-    for (; size < 4 && i < size; ++i)
-        mix(p[i]);
-    return static_cast<std::uint32_t>(h);
+    const char16_t* p = text.data();
+    std::size_t left = text.size();
+    std::uint64_t h = left * kFactor;
+    for (; left > 8; left -= 8, p += 8)
+        h = mix(load(p) ^ kFactor, load(p + 4) ^ h);
+    // The last words overlap what went before, so that they are whole ones.
+    std::uint64_t first = 0, last = 0;
+    if (left >= 4)
+    {
+        first = load(p);
+        last = load(p + left - 4);
+    }
+    else
+        for (std::size_t i = 0; i < left; ++i)
+            first = first << 16 | p[i];
+    return static_cast<std::uint32_t>(mix(mix(first ^ kFactor, last ^ h), kFactor));
 }
 
 bool equal(view a, view b)
@@ -179,28 +171,58 @@ bool equal_no_case(view a, view b)
     return true;
 }
 
-view trim(view text)
+namespace
 {
-    while (!text.empty() && platform::letters::is_space(text.back()))
-        text.remove_suffix(1);
-    while (!text.empty() && platform::letters::is_space(text.front()))
-        text.remove_prefix(1);
-    return text;
+#if defined(__SSE2__)
+// Where wide text is wider than a unit: eight characters in one step. The pack saturates with a sign, so
+// each character's sixteenth bit is made its sign before.
+void copy_eight(const wchar_t* from, char16_t* to)
+{
+    const auto* const p = reinterpret_cast<const __m128i*>(from);
+    const __m128i low = _mm_srai_epi32(_mm_slli_epi32(_mm_loadu_si128(p), 16), 16);
+    const __m128i high = _mm_srai_epi32(_mm_slli_epi32(_mm_loadu_si128(p + 1), 16), 16);
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(to), _mm_packs_epi32(low, high));
 }
+void copy_eight(const char16_t* from, wchar_t* to)
+{
+    const __m128i units = _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
+    auto* const p = reinterpret_cast<__m128i*>(to);
+    _mm_storeu_si128(p, _mm_unpacklo_epi16(units, _mm_setzero_si128()));
+    _mm_storeu_si128(p + 1, _mm_unpackhi_epi16(units, _mm_setzero_si128()));
+}
+#else
+template <class From, class To>
+void copy_eight(const From* from, To* to)
+{
+    std::copy_n(from, 8, to);
+}
+#endif
+
+template <class From, class To>
+void copy_units(const From* from, std::size_t count, To* to)
+{
+    if (sizeof(From) == sizeof(To))
+        std::memcpy(to, from, count * sizeof(To));
+    else if (count < 8)
+        std::transform(from, from + count, to, [](From unit) { return static_cast<To>(unit); });
+    else
+    {
+        for (std::size_t i = 0; i + 8 < count; i += 8)
+            copy_eight(from + i, to + i);
+        copy_eight(from + count - 8, to + count - 8); // overlaps the step before
+    }
+}
+} // namespace
 
 CString to_string(view text)
 {
     CString result;
     if (!text.empty())
-        std::copy(text.begin(), text.end(), result.GetBufferSetLength(static_cast<int>(text.size())));
+        copy_units(text.data(), text.size(), result.GetBufferSetLength(static_cast<int>(text.size())));
     return result;
 }
 
-void narrow(const wchar_t* text, std::size_t count, char16_t* out)
-{
-    for (std::size_t i = 0; i < count; ++i)
-        out[i] = static_cast<char16_t>(text[i]);
-}
+void narrow(const wchar_t* text, std::size_t count, char16_t* out) { copy_units(text, count, out); }
 } // namespace units
 
 CUnits::CUnits(const wchar_t* psz)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/letters.h"
 #include "tarvo/export.h"
 
 #include <afxstr.h>
@@ -16,8 +17,6 @@ using view = std::u16string_view;
 
 /// The first unit of [\p first, \p last) that equals \p unit; \p last when there is none.
 TARVO_API const char16_t* find(const char16_t* first, const char16_t* last, char16_t unit);
-/// The first unit below 16: line feed, carriage return and NUL are there, letters are not.
-TARVO_API const char16_t* find_control(const char16_t* first, const char16_t* last);
 /// The first line feed or carriage return.
 TARVO_API const char16_t* find_break(const char16_t* first, const char16_t* last);
 
@@ -27,7 +26,14 @@ TARVO_API int compare(view a, view b);
 TARVO_API bool equal(view a, view b);
 TARVO_API bool equal_no_case(view a, view b);
 /// \p text without the white space (platform::letters::is_space) at both ends.
-TARVO_API view trim(view text);
+inline view trim(view text)
+{
+    while (!text.empty() && platform::letters::is_space(text.back()))
+        text.remove_suffix(1);
+    while (!text.empty() && platform::letters::is_space(text.front()))
+        text.remove_prefix(1);
+    return text;
+}
 
 /// The same units as a string of the framework.
 TARVO_API CString to_string(view text);

@@ -13,7 +13,8 @@ std::vector<std::u16string> lines_of(std::u16string text)
 {
     CLineReader reader(text.data(), text.size());
     std::vector<std::u16string> lines;
-    for (units::view line; reader.ReadALine(line);)
+    LineMarks marks;
+    for (units::view line; reader.ReadALine(line, marks);)
         lines.emplace_back(line);
     return lines;
 }
@@ -53,7 +54,8 @@ TEST(IniLines, AreClassifiedInTheOrderBlankSectionCommentDataOther)
         {u"]", LINE_OTHER},      {u"[a", LINE_OTHER},    {u"a]", LINE_OTHER},      {u"a;", LINE_OTHER},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(GetLineType(row.line), row.type) << testing::PrintToString(std::u16string(row.line));
+        EXPECT_EQ(GetLineType(row.line, MarkLine(row.line)), row.type)
+            << testing::PrintToString(std::u16string(row.line));
     EXPECT_EQ(LINE_SECTION, 0);
     EXPECT_EQ(LINE_DATA, 1);
     EXPECT_EQ(LINE_COMMENT, 2);
@@ -106,7 +108,7 @@ TEST(IniLines, SplitIntoKeyAndValue)
     {
         SCOPED_TRACE(testing::PrintToString(std::u16string(row.line)));
         units::view key, value;
-        ASSERT_TRUE(ParseData(row.line, key, value));
+        ASSERT_TRUE(ParseData(row.line, MarkLine(row.line), key, value));
         EXPECT_EQ(std::u16string(key), std::u16string(row.key));
         EXPECT_EQ(std::u16string(value), std::u16string(row.value));
     }
@@ -117,7 +119,8 @@ TEST(IniLines, ThatAreNoDataAreRefused)
     units::view key, value;
     for (const units::view line :
          {units::view(), units::view(u";a=b"), units::view(u"[a=b"), units::view(u"word")})
-        EXPECT_FALSE(ParseData(line, key, value)) << testing::PrintToString(std::u16string(line));
+        EXPECT_FALSE(ParseData(line, MarkLine(line), key, value))
+            << testing::PrintToString(std::u16string(line));
 }
 
 TEST(IniLines, SkipBlanksAndTabsOnly)
