@@ -1,14 +1,17 @@
 #include "platform/file.h"
 #include "tarvo/lang/ResourceHeader.h"
+#include "tests/tarvo/lang/HeaderModel.h"
 
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <string>
 #include <unistd.h>
 
-// Both forms take any bytes. Whatever was recorded is found again under its value, in the order that the
-// table shows, and no word is longer than the buffer.
+// Both forms take any bytes. The memory form records what a plain reading of the rules gives; whatever was
+// recorded is found again under its value, in the order that the table shows, and no word is longer than the
+// buffer.
 namespace
 {
 void Require(bool holds, const char* what)
@@ -43,6 +46,18 @@ void CheckTables(const CResourceHeader& header)
     }
 }
 
+void CheckAgainstModel(const CResourceHeader& header, const unsigned char* data, std::size_t count)
+{
+    std::u16string text(count, u'\0');
+    if (count != 0)
+        std::memcpy(text.data(), data, count * sizeof(char16_t));
+    CHeaderModel model(text);
+    for (const auto kind : {CResourceHeader::All, CResourceHeader::Control, CResourceHeader::Dialog,
+                            CResourceHeader::Resource, CResourceHeader::Menu})
+        Require(data == nullptr || CHeaderModel::Told(header, kind) == model.Get(kind),
+                "the tables are what the rules give unit by unit");
+}
+
 const std::wstring& ScratchPath()
 {
     static const std::wstring path = [] {
@@ -58,6 +73,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     CResourceHeader memory;
     Require(memory.LoadMemory(data, static_cast<int>(size / 2)) == (data != nullptr), "any text loads");
     CheckTables(memory);
+    CheckAgainstModel(memory, data, size / 2);
     CResourceHeader::FirstWord(data, static_cast<int>(size / 2));
 
     platform::file::write_whole(ScratchPath().c_str(), {reinterpret_cast<const char*>(data), size});

@@ -1,8 +1,10 @@
 #include "tarvo/lang/HeaderWords.h"
 
 #include "platform/letters.h"
+#include "tarvo/text/UnitBlock.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -71,14 +73,47 @@ Words ReadWords(units::view text)
     return words;
 }
 
+namespace
+{
+std::uint64_t From(int at) { return ~std::uint64_t{0} << at; }
+
+/// Reads three words of a text that holds 64 units at least, and finds the '#' behind its third unit. False,
+/// and nothing done, when they do not lie among these, each with a blank behind it, or when there is
+/// something else than ASCII among them.
+bool ReadBlock(const char16_t* text, Words& words, const char16_t*& sign)
+{
+    const CUnitBlock block(text);
+    const std::uint64_t blanks = block.Equal(u' ') | block.Between(u'\t', u'\r');
+    const std::uint64_t signs = block.Equal(u'#') & From(3);
+    const std::uint64_t letters = block.Between(u'!', u'~');
+    int at = 0;
+    for (units::view& word : words.word)
+    {
+        const int begin = std::countr_zero(letters & From(at));
+        if (begin == 64 || (at = std::countr_zero(~letters & From(begin))) == 64)
+            return false;
+        word = {text + begin, static_cast<std::size_t>(at - begin)};
+    }
+    // The blank behind the last word is looked at too: another unit would be part of it.
+    if (signs == 0 || ((letters | blanks) | From(at) << 1) != From(0))
+        return false;
+    words.count = 3;
+    sign = text + std::countr_zero(signs);
+    return true;
+}
+} // namespace
+
 bool CDirectives::Next(Words& words)
 {
     if (m_bAtEnd)
         return false;
-    words = ReadWords(m_text);
     const char16_t* const end = m_text.data() + m_text.size();
-    const char16_t* const from = std::min(m_text.data() + words.count, end);
-    const char16_t* const sign = units::find(from, end, u'#');
+    const char16_t* sign = end;
+    if (m_text.size() < CUnitBlock::kCount || !ReadBlock(m_text.data(), words, sign))
+    {
+        words = ReadWords(m_text);
+        sign = units::find(std::min(m_text.data() + words.count, end), end, u'#');
+    }
     m_text = {sign, static_cast<std::size_t>(end - sign)};
     m_bAtEnd = sign == end;
     return true;

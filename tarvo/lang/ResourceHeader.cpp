@@ -11,18 +11,19 @@ constexpr std::uint32_t none = 0xFFFFFFFFu;
 constexpr std::uint64_t largestFile = 256u * 1024 * 1024;
 constexpr units::view defineWord = u"#define";
 
+/// "ID", a letter where there is one, and an underscore.
 struct Mark
 {
-    units::view text;
+    char16_t letter; ///< 0 for none
     CResourceHeader::Kind kind;
     bool inFiles; ///< IDM_ names of a header file are passed over
 };
 
 /// In the order in which they are looked for.
 constexpr Mark marks[] = {
-    {u"IDC_", CResourceHeader::Control, true},  {u"IDD_", CResourceHeader::Dialog, true},
-    {u"IDR_", CResourceHeader::Resource, true}, {u"ID_", CResourceHeader::Menu, true},
-    {u"IDM_", CResourceHeader::Menu, false},
+    {u'C', CResourceHeader::Control, true},  {u'D', CResourceHeader::Dialog, true},
+    {u'R', CResourceHeader::Resource, true}, {u'\0', CResourceHeader::Menu, true},
+    {u'M', CResourceHeader::Menu, false},
 };
 
 struct StandardButton
@@ -33,21 +34,42 @@ struct StandardButton
 
 constexpr StandardButton standardButtons[] = {{u"IDOK", u"1"}, {u"IDCANCEL", u"2"}, {u"IDCLOSE", u"8"}};
 
+bool IsId(units::view name, std::size_t at) { return name[at] == u'I' && name[at + 1] == u'D'; }
+
 /// The mark that comes first in the list, wherever it stands in the name; null when there is none.
 const Mark* FindMark(units::view name, bool fromFile)
 {
     const Mark* best = std::end(marks);
-    const char16_t* const end = name.data() + name.size();
-    // Every mark ends with an underscore, and a name has few of those.
-    for (const char16_t* at = units::find(name.data(), end, u'_'); at != end;
-         at = units::find(at + 1, end, u'_'))
+    for (std::size_t at = 2; at < name.size(); ++at)
     {
-        const units::view upTo(name.data(), static_cast<std::size_t>(at + 1 - name.data()));
+        if (name[at] != u'_')
+            continue;
+        const bool isPlain = IsId(name, at - 2);
+        if (!isPlain && (at < 3 || !IsId(name, at - 3)))
+            continue;
+        const char16_t letter = isPlain ? u'\0' : name[at - 1];
         best = std::find_if(std::begin(marks), best, [&](const Mark& mark) {
-            return (mark.inFiles || !fromFile) && upTo.ends_with(mark.text);
+            return mark.letter == letter && (mark.inFiles || !fromFile);
         });
     }
     return best == std::end(marks) ? nullptr : best;
+}
+
+/// Neighbours in number are neighbours in the table, 16 in a row: a header counts its values up, so most of
+/// them are found where the one before was.
+std::uint32_t HashOf(units::view value)
+{
+    std::uint32_t number = 0;
+    if (value.size() > 9)
+        return units::hash(value);
+    for (const char16_t digit : value)
+    {
+        const unsigned n = static_cast<unsigned>(digit) - u'0';
+        if (n > 9)
+            return units::hash(value);
+        number = number * 10 + n;
+    }
+    return ((number >> 4) * 0x9E3779B1u >> 10 << 4) | (number & 15);
 }
 
 /// UTF-16LE bytes as units, copied only where they are not aligned as units are.
@@ -126,7 +148,7 @@ void CResourceHeader::Record(Kind kind, units::view name, units::view value)
 {
     if (m_values.size() * 2 >= m_slots.size())
         MakeSlots(std::max<std::size_t>(64, m_slots.size() * 4));
-    const std::uint32_t hash = units::hash(value);
+    const std::uint32_t hash = HashOf(value);
     std::uint32_t& slot = m_slots[SlotOf(value, hash)];
     const auto definition = static_cast<std::uint32_t>(m_definitions.size());
     if (slot == none)
@@ -193,7 +215,7 @@ std::uint32_t CResourceHeader::FirstOfKind(const wchar_t* pszValue, Kind kind) c
     if (pszValue == nullptr || m_slots.empty())
         return none;
     const CUnits value(pszValue);
-    const std::uint32_t found = m_slots[SlotOf(value, units::hash(value))];
+    const std::uint32_t found = m_slots[SlotOf(value, HashOf(value))];
     return found == none ? none : NextOfKind(m_values[found].nFirst, kind);
 }
 

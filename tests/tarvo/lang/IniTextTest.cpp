@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 #include <vector>
 
@@ -206,4 +207,27 @@ TEST(IniNumbers, AreReadAsIn32Bits)
     for (const auto& row : rows)
         EXPECT_EQ(ToUnsigned(row.text, row.radix), row.number)
             << (row.text ? testing::PrintToString(std::wstring(row.text)) : "null") << " radix " << row.radix;
+}
+
+TEST(IniLines, AreMarkedTheSameHoweverLongTheyAre)
+{
+    std::mt19937 random(1234);
+    for (int round = 0; round < 4000; ++round)
+    {
+        std::u16string text(random() % 200, u'x');
+        for (char16_t& unit : text)
+            if (random() % 24 == 0)
+                unit = u"=\"/\t\u043D\u3D3D\u2222\n\r"[random() % 9];
+        const std::size_t end = std::min(text.find_first_of(u"\t\n\r"), text.size());
+        const units::view line = units::view(text).substr(0, end);
+        const auto at = [&line](std::size_t found) {
+            return found == units::view::npos ? nullptr : line.data() + found;
+        };
+        LineMarks marks;
+        ASSERT_EQ(MarkLine(text.data(), text.data() + text.size(), marks), text.data() + end);
+        ASSERT_EQ(marks.equals, at(line.find(u'=')));
+        ASSERT_EQ(marks.quote, at(line.find(u'"')));
+        ASSERT_EQ(marks.lastQuote, at(line.rfind(u'"')));
+        ASSERT_EQ(marks.slash, line.find(u'/') != units::view::npos);
+    }
 }

@@ -5,10 +5,12 @@
 #include "tests/support/Corpus.h"
 #include "tests/support/TempFolder.h"
 #include "tests/support/print.h"
+#include "tests/tarvo/lang/HeaderModel.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <random>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -277,5 +279,28 @@ TEST(CResourceHeader, RealHeadersGiveEveryDefinedSymbol)
         for (const auto& entry : header.GetTable(CResourceHeader::All))
             found += entry.arrNames.size();
         EXPECT_EQ(found, expected) << file.name;
+    }
+}
+
+TEST(CResourceHeader, AnyTextGivesWhatTheRulesGiveUnitByUnit)
+{
+    const std::u16string_view pieces[] = {
+        u"#define ", u"#define\t", u"#",      u"IDC_",   u"IDD_A",     u"xIDR_",         u"ID_",
+        u"IDM_",     u"_APS",      u"12",     u"0012",   u"7",         u"a word of any", u"\r\n",
+        u"\n",       u"\u00A0",    u"\uD55C", u"      ", u"123456789", u"0123456789"};
+    std::mt19937 random(4711);
+    for (int round = 0; round < 3000; ++round)
+    {
+        std::u16string text;
+        for (int count = static_cast<int>(random() % 60); count > 0; --count)
+            text += pieces[random() % std::size(pieces)];
+        if (random() % 8 == 0 && !text.empty())
+            text[random() % text.size()] = u'\0';
+        CResourceHeader header;
+        header.LoadMemory(reinterpret_cast<const unsigned char*>(text.data()), static_cast<int>(text.size()));
+        CHeaderModel model(text);
+        for (const auto kind : {CResourceHeader::All, CResourceHeader::Control, CResourceHeader::Dialog,
+                                CResourceHeader::Resource, CResourceHeader::Menu})
+            ASSERT_EQ(CHeaderModel::Told(header, kind), model.Get(kind)) << testing::PrintToString(text);
     }
 }
