@@ -1,4 +1,5 @@
 #include "afxdlg.h"
+#include "afxmodal.h"
 #include "afxmsgmap.h"
 #include "afxstate.h"
 
@@ -92,57 +93,6 @@ BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd)
     return TRUE;
 }
 
-namespace
-{
-/// Which window a modal dialog belongs to and which windows it keeps from the user while it runs.
-class ModalOwner
-{
-public:
-    explicit ModalOwner(HWND hParent)
-    {
-        const bool bGiven = hParent != nullptr;
-        if (!bGiven)
-            hParent = CWnd::SafeHandle(AfxGetMainWnd());
-        while (hParent && (::GetWindowLongPtrW(hParent, GWL_STYLE) & WS_CHILD))
-            hParent = ::GetParent(hParent);
-        HWND hTop = hParent;
-        for (HWND hWnd = hParent; hWnd; hWnd = ::GetParent(hWnd))
-            hTop = hWnd;
-        if (!bGiven && hParent)
-            hParent = ::GetLastActivePopup(hParent);
-        m_hOwner = hParent;
-        Disable(m_bOwner, hParent);
-        m_hTop = hTop != hParent ? hTop : nullptr;
-        Disable(m_bTop, m_hTop);
-    }
-    ~ModalOwner() { Release(); }
-    ModalOwner(const ModalOwner&) = delete;
-    ModalOwner& operator=(const ModalOwner&) = delete;
-
-    HWND Handle() const { return m_hOwner; }
-    void Release()
-    {
-        if (std::exchange(m_bOwner, false))
-            ::EnableWindow(m_hOwner, TRUE);
-        if (std::exchange(m_bTop, false))
-            ::EnableWindow(m_hTop, TRUE);
-    }
-
-private:
-    static void Disable(bool& bDone, HWND hWnd)
-    {
-        bDone = hWnd && hWnd != ::GetDesktopWindow() && ::IsWindowEnabled(hWnd);
-        if (bDone)
-            ::EnableWindow(hWnd, FALSE);
-    }
-
-    HWND m_hOwner;
-    HWND m_hTop;
-    bool m_bOwner = false; // disabled by this object
-    bool m_bTop = false;
-};
-} // namespace
-
 LPCDLGTEMPLATE CDialog::LockTemplate(HINSTANCE& hInst)
 {
     hInst = AfxGetResourceHandle();
@@ -165,7 +115,7 @@ INT_PTR CDialog::DoModal()
     if (!pTemplate)
         return -1;
     const AfxLifeLine life(this);
-    ModalOwner owner(SafeHandle(m_pParentWnd));
+    AfxModalOwner owner(SafeHandle(m_pParentWnd));
     m_nModalResult = -1;
     int nResult = -1;
     if (!CreateDlgIndirect(pTemplate, FromHandle(owner.Handle()), hInst))
@@ -219,19 +169,9 @@ BOOL CDialog::CheckAutoCenter()
     const LPCDLGTEMPLATE pTemplate = LockTemplate(hInst);
     if (!pTemplate)
         return TRUE;
-    // The extended form begins with 1 and -1 and has style and place further back.
-    struct Extended
-    {
-        WORD dlgVer, signature;
-        DWORD helpID, exStyle, style;
-        WORD cDlgItems;
-        short x, y;
-    };
-    const auto* pExtended = reinterpret_cast<const Extended*>(pTemplate);
-    const bool bExtended = pExtended->signature == 0xFFFF;
-    const DWORD dwStyle = bExtended ? pExtended->style : pTemplate->style;
-    const CPoint place = bExtended ? CPoint(pExtended->x, pExtended->y) : CPoint(pTemplate->x, pTemplate->y);
-    return !(dwStyle & (DS_CENTER | DS_CENTERMOUSE | DS_ABSALIGN)) && place == CPoint(0, 0);
+    const DWORD dwStyle = AfxTemplateStyle(pTemplate);
+    return !(dwStyle & (DS_CENTER | DS_CENTERMOUSE | DS_ABSALIGN)) &&
+           AfxTemplatePlace(pTemplate) == CPoint(0, 0);
 }
 
 BOOL CDialog::OnInitDialog()
@@ -284,15 +224,21 @@ namespace
 bool IsMenuCommand(UINT nID) { return (nID & 0x8000) != 0 && nID < 0xF000; }
 } // namespace
 
-BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
+BOOL AfxRouteToOwner(CWnd* pWnd, UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
 {
-    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
-        return TRUE;
     if ((nCode != CN_COMMAND && nCode != CN_UPDATE_COMMAND_UI) || !IsMenuCommand(nID))
         return FALSE;
-    CWnd* pOwner = GetParent();
+    CWnd* pOwner = pWnd->GetParent();
     if (pOwner && pOwner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
         return TRUE;
     CWinThread* pThread = AfxGetThread();
     return pThread && pThread->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
+BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
+{
+    const AfxLifeLine life(this);
+    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
+        return TRUE;
+    return life.IsAlive() && AfxRouteToOwner(this, nID, nCode, pExtra, pHandlerInfo);
 }

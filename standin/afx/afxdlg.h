@@ -67,6 +67,9 @@ protected:
     virtual void OnCancel();
     virtual void PreInitDialog() {}
 
+    /// Takes a number as it is and copies a name.
+    void SetTemplateName(LPCTSTR lpszTemplateName);
+
     UINT m_nIDHelp = 0;
     LPCTSTR m_lpszTemplateName = nullptr;        ///< the resource; a number or a copy of the name
     HGLOBAL m_hDialogTemplate = nullptr;         ///< in memory instead
@@ -79,8 +82,6 @@ protected:
 
 private:
     friend struct AfxWndAccess;
-    void SetTemplateName(LPCTSTR lpszTemplateName);
-    BOOL FillFromTemplate();
     LPCDLGTEMPLATE LockTemplate(HINSTANCE& hInst);
     CString m_strTemplateName;
 };

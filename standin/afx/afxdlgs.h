@@ -5,6 +5,10 @@
 
 #include <commdlg.h>
 
+#include "afxpropsheet.h"
+
+/// Property sheets, and the system's own dialogs.
+
 /// The system's dialog for opening or saving a file. DoModal answers IDOK or IDCANCEL; the texts below
 /// hold what was chosen.
 class AFX_API CFileDialog : public CDialog

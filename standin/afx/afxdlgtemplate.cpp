@@ -74,6 +74,27 @@ DWORD AfxTemplateStyle(const DLGTEMPLATE* p)
     return IsExtended(p) ? reinterpret_cast<const ExtendedHead*>(p)->style : p->style;
 }
 
+CPoint AfxTemplatePlace(const DLGTEMPLATE* p)
+{
+    if (!IsExtended(p))
+        return CPoint(p->x, p->y);
+    const auto* pExtended = reinterpret_cast<const ExtendedHead*>(p);
+    return CPoint(pExtended->x, pExtended->y);
+}
+
+void AfxSetTemplateStyle(DLGTEMPLATE* p, DWORD dwStyle, DWORD dwExStyle)
+{
+    if (IsExtended(p))
+    {
+        auto* pExtended = reinterpret_cast<ExtendedHead*>(p);
+        pExtended->style = dwStyle;
+        pExtended->exStyle = dwExStyle;
+        return;
+    }
+    p->style = dwStyle;
+    p->dwExtendedStyle = dwExStyle;
+}
+
 namespace
 {
 WORD ItemCount(const DLGTEMPLATE* p)

@@ -88,7 +88,8 @@ struct AFX_THREAD_STATE
     CWinThread* pThread = nullptr;
     int nTempMapLock = 0;
 
-    CWnd* pWndInit = nullptr; ///< the object that waits for the window being created
+    CWnd* pWndInit = nullptr;      ///< the object that waits for the window being created
+    HWND hWndInitParent = nullptr; ///< whose child that window is; null: any window will do
     HHOOK hCreationHook = nullptr;
     MSG lastSentMsg{};                   ///< what Default() repeats
     HWND hLockoutNotifyWindow = nullptr; ///< the dialog whose data is being exchanged: takes no notifications
@@ -110,6 +111,8 @@ void AfxSetAppModuleState(AFX_MODULE_STATE* pState);
 void AfxInitCommonControls();
 /// Of a template of either form.
 DWORD AfxTemplateStyle(const DLGTEMPLATE* pTemplate);
+CPoint AfxTemplatePlace(const DLGTEMPLATE* pTemplate);
+void AfxSetTemplateStyle(DLGTEMPLATE* pTemplate, DWORD dwStyle, DWORD dwExStyle);
 /// The message that AfxPumpMessage took last.
 MSG* AfxCurrentMessage();
 BOOL AfxIsIdleMessage(MSG* pMsg);

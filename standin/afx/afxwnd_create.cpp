@@ -1,3 +1,4 @@
+#include "afxmodal.h"
 #include "afxroute.h"
 #include "afxstate.h"
 
@@ -13,13 +14,20 @@ bool IsInputMethodWindow(HWND hWnd)
            ::lstrcmpiW(szClass, L"ime") == 0;
 }
 
+/// A window that somebody else creates: its object waits for a child of a certain window.
+bool IsMeant(const AFX_THREAD_STATE& state, const CREATESTRUCTW* pcs)
+{
+    return !state.hWndInitParent || (pcs->hwndParent == state.hWndInitParent && (pcs->style & WS_CHILD));
+}
+
 /// Runs before the new window's first message, so that the object sees all of them.
 LRESULT CALLBACK CreationHook(int nCode, WPARAM wParam, LPARAM lParam)
 {
     AFX_THREAD_STATE& state = AfxThreadState();
     const HWND hWnd = reinterpret_cast<HWND>(wParam);
     // The system makes input method windows on the way, in front of the one that is meant.
-    if (nCode == HCBT_CREATEWND && state.pWndInit && !IsInputMethodWindow(hWnd))
+    if (nCode == HCBT_CREATEWND && state.pWndInit && !IsInputMethodWindow(hWnd) &&
+        IsMeant(state, reinterpret_cast<const CBT_CREATEWNDW*>(lParam)->lpcs))
     {
         CWnd* pWnd = std::exchange(state.pWndInit, nullptr);
         const MSG msg{hWnd, WM_NCCREATE, 0, 0, 0, {}};
@@ -30,16 +38,15 @@ LRESULT CALLBACK CreationHook(int nCode, WPARAM wParam, LPARAM lParam)
     }
     return ::CallNextHookEx(state.hCreationHook, nCode, wParam, lParam);
 }
+} // namespace
 
-/// What CreateDialogIndirect calls through the system's dialog procedure.
-INT_PTR CALLBACK DialogProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
+INT_PTR CALLBACK AfxDlgProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message != WM_INITDIALOG)
         return FALSE;
     CWnd* pWnd = CWnd::FromHandlePermanent(hWnd);
     return pWnd ? AfxWndAccess::InitDialog(pWnd, MSG{hWnd, message, wParam, lParam, 0, {}}) : TRUE;
 }
-} // namespace
 
 void AfxHookWindowCreate(CWnd* pWnd)
 {
@@ -47,6 +54,7 @@ void AfxHookWindowCreate(CWnd* pWnd)
     if (!state.hCreationHook)
         state.hCreationHook = ::SetWindowsHookExW(WH_CBT, CreationHook, nullptr, ::GetCurrentThreadId());
     state.pWndInit = pWnd;
+    state.hWndInitParent = nullptr;
 }
 
 BOOL AfxUnhookWindowCreate()
@@ -180,7 +188,7 @@ BOOL CWnd::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, 
     const AfxLifeLine life(this);
     AfxCreationScope creation(this);
     const HWND hWnd = ::CreateDialogIndirectParamW(hInst ? hInst : AfxGetInstanceHandle(), lpDialogTemplate,
-                                                   SafeHandle(pParentWnd), DialogProc, 0);
+                                                   SafeHandle(pParentWnd), AfxDlgProc, 0);
     if (!creation.Finish(hWnd) || !life.IsAlive())
         return FALSE;
     if (m_hWnd == hWnd && (m_nFlags & WF_CONTINUEMODAL))

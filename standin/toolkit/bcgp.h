@@ -5,4 +5,6 @@
 
 #include "bcgpdialog.h"
 #include "bcgpformview.h"
+#include "bcgppropertypage.h"
+#include "bcgppropertysheet.h"
 #include "bcgpvisualmanager.h"

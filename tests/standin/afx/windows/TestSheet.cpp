@@ -1,0 +1,8 @@
+#include "TestSheet.h"
+
+BEGIN_MESSAGE_MAP(CLogPage, CPropertyPage)
+ON_BN_CLICKED(IDC_BUTTON, &CLogPage::OnButton)
+ON_COMMAND(ID_FILE_SEND, &CLogPage::OnSend)
+ON_COMMAND(ID_HELP, &CLogPage::OnHelp)
+ON_MESSAGE(PSM_QUERYSIBLINGS, &CLogPage::OnSiblings)
+END_MESSAGE_MAP()
