@@ -11,23 +11,14 @@
 
 namespace
 {
+constexpr char16_t replacement = 0xFFFD;
+
 using platform::codepage::Block;
 using platform::codepage::block_size;
 
 const std::uint8_t* First(std::string_view bytes)
 {
     return reinterpret_cast<const std::uint8_t*>(bytes.data());
-}
-
-/// Copies the plain ASCII that [\p in, \p end) begins with; in blocks, since most of a script is.
-std::size_t CopyAscii(const std::uint8_t* in, const std::uint8_t* end, char16_t* out)
-{
-    const std::uint8_t* const begin = in;
-    for (; end - in >= block_size && Block(in).ascii(); in += block_size, out += block_size)
-        platform::codepage::widen_block(in, out);
-    while (in != end && *in < 0x80)
-        *out++ = *in++;
-    return static_cast<std::size_t>(in - begin);
 }
 
 std::size_t DecodeUtf16(std::string_view& bytes, bool bigEndian, char16_t* out)
@@ -43,37 +34,76 @@ std::size_t DecodeUtf16(std::string_view& bytes, bool bigEndian, char16_t* out)
     return units;
 }
 
+/// Where the first piece of \p bytes ends: behind a line feed, so that a well-formed text is cut between
+/// characters.
+std::size_t PieceLength(std::string_view bytes)
+{
+    constexpr std::size_t least = 8192;
+    const std::size_t end = bytes.size() > least ? bytes.find('\n', least) : std::string_view::npos;
+    return end == std::string_view::npos ? bytes.size() : end + 1;
+}
+
+bool HasLongLead(std::string_view bytes)
+{
+    constexpr platform::codepage::ByteSet leads = {0, 0xF0, 0x0F};
+    const std::uint8_t* at = First(bytes);
+    const std::uint8_t* const end = at + bytes.size();
+    for (; end - at >= block_size; at += block_size)
+        if (Block(at).in(leads) != 0)
+            return true;
+    return std::any_of(at, end, [&](std::uint8_t byte) { return leads.holds(byte); });
+}
+
+/// The units of a piece in which every character has its one right form and none has four bytes: then the
+/// system's rules give the same, and they have the quicker decoder. 0 for every other piece, and for one
+/// that says U+FFFD itself.
+std::size_t DecodeWellFormed(std::string_view bytes, char16_t* out)
+{
+    if (HasLongLead(bytes))
+        return 0;
+    const std::size_t count = platform::codepage::decode(platform::codepage::utf8, bytes, out).value_or(0);
+    return units::find(out, out + count, replacement) == out + count ? count : 0;
+}
+
+/// Decodes by the lenient rules the characters that begin in the first \p length bytes, and takes them off
+/// \p bytes. False when the last is cut off by the end of the text; it is left.
+bool DecodePiece(std::string_view& bytes, std::size_t length, char16_t*& out)
+{
+    const std::uint8_t* const in = First(bytes);
+    std::size_t at = 0;
+    while (at < length)
+    {
+        const std::uint8_t first = in[at];
+        const int ones = std::countl_one(first);
+        const std::size_t taken = ones == 2 || ones == 3 ? static_cast<std::size_t>(ones) : 1;
+        if (taken > bytes.size() - at)
+            break;
+        unsigned value = ones == 0 ? first : replacement;
+        if (taken > 1)
+            value = (first & 0x1F) << 6 | (in[at + 1] & 0x3F);
+        if (taken > 2)
+            value = value << 6 | (in[at + 2] & 0x3F);
+        *out++ = static_cast<char16_t>(value);
+        at += taken;
+    }
+    bytes.remove_prefix(at);
+    return at >= length;
+}
+
 std::size_t DecodeUtf8(std::string_view& bytes, char16_t* out)
 {
-    const std::uint8_t* in = First(bytes);
-    const std::uint8_t* const end = in + bytes.size();
     char16_t* const begin = out;
-    while (in != end)
+    for (bool isWhole = true; isWhole && !bytes.empty();)
     {
-        const unsigned first = *in;
-        if (first < 0x80)
+        const std::size_t length = PieceLength(bytes);
+        if (const std::size_t count = DecodeWellFormed(bytes.substr(0, length), out))
         {
-            const std::size_t copied = CopyAscii(in, end, out);
-            in += copied;
-            out += copied;
-            continue;
+            out += count;
+            bytes.remove_prefix(length);
         }
-        const int ones = std::countl_one(static_cast<std::uint8_t>(first));
-        if (ones != 2 && ones != 3)
-        {
-            *out++ = 0xFFFD;
-            ++in;
-            continue;
-        }
-        if (end - in < ones)
-            break;
-        unsigned value = (first & 0x1F) << 6 | (in[1] & 0x3F);
-        if (ones == 3)
-            value = value << 6 | (in[2] & 0x3F);
-        *out++ = static_cast<char16_t>(value);
-        in += ones;
+        else
+            isWhole = DecodePiece(bytes, length, out);
     }
-    bytes.remove_prefix(bytes.size() - static_cast<std::size_t>(end - in));
     return static_cast<std::size_t>(out - begin);
 }
 

@@ -141,7 +141,8 @@ std::uint32_t hash(view text)
 
 bool equal(view a, view b)
 {
-    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0;
+    return a.size() == b.size() &&
+           (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0);
 }
 
 int compare(view a, view b)

@@ -224,3 +224,52 @@ TEST(TextLines, ReadNothingPastTheEnd)
     CTextLines none;
     EXPECT_FALSE(none.Next(line));
 }
+
+// Well-formed text goes another way; where the two meet nothing may show.
+TEST(DecodeLenientUtf8, GivesTheSameForLongTextsHoweverTheyAreMixed)
+{
+    const std::string parts[] = {"abc\n",
+                                 "가나다",
+                                 "\xC3\n",
+                                 "\xE0\x80\x80",
+                                 "\xF0\x9F\x98\x80",
+                                 "\xEF\xBF\xBD",
+                                 "\xED\xA0\x80",
+                                 std::string(300, 'x') + '\n',
+                                 "\x80",
+                                 "é"};
+    std::mt19937 random(3);
+    for (int round = 0; round < 60; ++round)
+    {
+        std::string bytes;
+        std::u16string wanted;
+        const unsigned kinds = round % 2 == 0 ? 10 : 2;
+        while (bytes.size() < 30000)
+        {
+            std::string part = parts[random() % kinds];
+            if (part == "\xC3\n" && kinds == 10)
+                part += random() % 2 == 0 ? "y" : "\n";
+            bytes += part;
+        }
+        bytes.resize(bytes.size() - random() % 3);
+        for (std::size_t at = 0; at < bytes.size();)
+        {
+            std::u16string one(4, u'?');
+            for (std::size_t length = 1; length <= 3 && at + length <= bytes.size(); ++length)
+                if (one.resize(DecodeLenientUtf8(bytes.substr(at, length), one.data())), !one.empty())
+                {
+                    wanted += one;
+                    at += length;
+                    break;
+                }
+                else
+                    one.assign(4, u'?');
+            if (one.size() == 4)
+                break;
+        }
+        std::u16string out(bytes.size(), u'?');
+        out.resize(DecodeLenientUtf8(bytes, out.data()));
+        ASSERT_EQ(out.size(), wanted.size());
+        ASSERT_TRUE(out == wanted);
+    }
+}

@@ -1,0 +1,50 @@
+#include "tarvo/restools/Resources.h"
+
+#include "platform/file.h"
+#include "tarvo/restools/ScriptReader.h"
+#include "tarvo/text/Units.h"
+
+CResources::CResources() = default;
+CResources::~CResources() = default;
+CResources::CResources(CResources&&) noexcept = default;
+CResources& CResources::operator=(CResources&&) noexcept = default;
+
+bool CResources::Read(const wchar_t* pszFileName, CString& strLog, const wchar_t* pszLanguage,
+                      CStringArray& arrLanguages)
+{
+    *this = CResources();
+    if (pszFileName == nullptr || *pszFileName == L'\0')
+        return false;
+    const auto bytes = platform::file::read_whole(pszFileName, MaxFileSize);
+    if (!bytes)
+    {
+        strLog += CString(L"Couldn't open ") + pszFileName + L"\r\n";
+        return false;
+    }
+    strLog += CString(L"Reading ") + pszFileName + L"\r\n";
+    return ReadMemory(*bytes, strLog, pszLanguage, arrLanguages);
+}
+
+bool CResources::ReadMemory(std::string_view bytes, CString& strLog, const wchar_t* pszLanguage,
+                            CStringArray& arrLanguages)
+{
+    *this = CResources();
+    if (bytes.size() > MaxFileSize)
+        return false;
+    auto text = DecodeText(bytes);
+    if (!text)
+        return false;
+    m_text = std::move(*text);
+
+    const CString filter(pszLanguage);
+    const auto isWanted = [&](std::u16string_view word) {
+        const CString language = units::to_string(word);
+        arrLanguages.Add(language);
+        return filter.IsEmpty() || language.CompareNoCase(filter) == 0;
+    };
+    std::u16string log;
+    CScriptReader(*this, log, filter.IsEmpty(), isWanted).Read();
+    log += u"Reading done\r\n";
+    strLog += units::to_string(log);
+    return true;
+}

@@ -1,0 +1,148 @@
+#include "tarvo/restools/ScriptReader.h"
+
+#include <algorithm>
+#include <climits>
+#include <iterator>
+#include <utility>
+
+namespace
+{
+/// Where a control's statement keeps what the model takes. Text, ID and class are counted in words between
+/// blanks and commas, the rest in words between commas alone, of which a keyword and the text behind it
+/// are one.
+struct ControlRule
+{
+    std::u16string_view keyword;
+    bool hasText;
+    bool hasClass;     ///< the type is the word behind the ID
+    std::size_t style; ///< the extended style follows it directly, except where hasClass
+};
+
+// control ::= CONTROL text "," id "," class "," style "," x "," y "," w "," h ["," exstyle ["," help]]
+//           | text-keyword text "," id "," x "," y "," w "," h ["," style ["," exstyle ["," help]]]
+//           | plain-keyword id "," x "," y "," w "," h ["," style ["," exstyle ["," help]]]
+constexpr ControlRule controlRules[] = {
+    {u"CONTROL", true, true, 3},     {u"LTEXT", true, false, 6},         {u"RTEXT", true, false, 6},
+    {u"CTEXT", true, false, 6},      {u"ICON", true, false, 6},          {u"GROUPBOX", true, false, 6},
+    {u"PUSHBUTTON", true, false, 6}, {u"DEFPUSHBUTTON", true, false, 6}, {u"EDITTEXT", false, false, 5},
+    {u"COMBOBOX", false, false, 5},  {u"LISTBOX", false, false, 5},      {u"SCROLLBAR", false, false, 5},
+};
+
+const ControlRule* FindRule(std::u16string_view keyword)
+{
+    for (const ControlRule& rule : controlRules)
+        if (rule.keyword == keyword)
+            return &rule;
+    return nullptr;
+}
+
+bool BeginsControl(std::u16string_view word) { return word == u"END" || FindRule(word) != nullptr; }
+
+bool BeginsHeadLine(std::u16string_view word)
+{
+    return word == u"STYLE" || word == u"EXSTYLE" || word == u"CAPTION" || word == u"FONT" ||
+           word == u"BEGIN";
+}
+
+// The value of a text of digits alone, held at the largest int; 0 of every other.
+int NumberOf(CResText text)
+{
+    long long value = 0;
+    for (const char16_t c : text)
+    {
+        if (c < u'0' || c > u'9')
+            return 0;
+        value = std::min<long long>(value * 10 + (c - u'0'), INT_MAX);
+    }
+    return static_cast<int>(value);
+}
+} // namespace
+
+// dialog ::= name (DIALOG | DIALOGEX) ... head BEGIN body END
+void CScriptReader::ReadDialog(const CScriptLine& head, CResText type)
+{
+    CResDialog dialog;
+    dialog.m_strName = head.first;
+    dialog.m_strType = type;
+    dialog.m_nLine = head.number;
+    m_lines.Take();
+    if (ReadDialogHead(dialog))
+        ReadDialogBody(dialog);
+    m_resources.m_dialogs.Append(std::move(dialog));
+}
+
+// head ::= { STYLE style | EXSTYLE style | CAPTION text | any other line } BEGIN
+bool CScriptReader::ReadDialogHead(CResDialog& dialog)
+{
+    while (m_lines.Peek())
+    {
+        const CResText first = m_lines.At().first;
+        if (first == u"STYLE")
+            dialog.m_strStyle = ReadStyle();
+        else if (first == u"EXSTYLE")
+            dialog.m_strExStyle = ReadStyle();
+        else
+        {
+            if (first == u"CAPTION")
+                dialog.m_strCaption = CScriptWords(m_lines.At().words).Next();
+            m_lines.Take();
+            if (first == u"BEGIN")
+                return true;
+        }
+    }
+    return false;
+}
+
+// style ::= (STYLE | EXSTYLE) expression, over several lines. Wherever "STYLE" stands a comma is put
+// behind it, all spaces are taken out, and what stands between the first two commas is the value.
+CResText CScriptReader::ReadStyle()
+{
+    constexpr std::u16string_view keyword = u"STYLE";
+    std::u16string_view rest = TakeStatement(m_lines, BeginsHeadLine).text;
+    std::u16string text;
+    for (std::size_t at; (at = rest.find(keyword)) != rest.npos; rest.remove_prefix(at + keyword.size()))
+        text.append(rest.substr(0, at + keyword.size())).append(u",");
+    text.append(rest);
+    text.erase(std::remove(text.begin(), text.end(), u' '), text.end());
+    return Keep().Copy(ScriptWord(text, 1, WordSeparators::Comma));
+}
+
+// body ::= { control | any other line } END
+void CScriptReader::ReadDialogBody(CResDialog& dialog)
+{
+    for (bool isOpen = true; isOpen && m_lines.Peek();)
+    {
+        isOpen = m_lines.At().first != u"END";
+        if (FindRule(m_lines.At().first) != nullptr)
+        {
+            ReadControl(dialog);
+            continue;
+        }
+        if (isOpen)
+            Log(u"Strange dialog line: ", m_lines.At().text);
+        m_lines.Take();
+    }
+}
+
+void CScriptReader::ReadControl(CResDialog& dialog)
+{
+    const ControlRule& rule = *FindRule(m_lines.At().first);
+    CScriptLine statement = TakeStatement(m_lines, BeginsControl);
+    CResDialogControl control;
+    control.m_nLine = statement.number;
+    if (rule.hasText)
+        control.m_strText = statement.words.Next();
+    control.m_strID = statement.words.Next();
+    control.m_strType = rule.hasClass ? statement.words.Next() : rule.keyword;
+    if (rule.hasClass)
+        control.m_nNumber = NumberOf(control.m_strText);
+
+    CScriptWords fields(statement.text, WordSeparators::Comma, Keep());
+    fields.Skip(rule.style);
+    control.m_strStyle = WithoutSpaces(fields.Next());
+    if (rule.hasClass)
+        fields.Skip(4); // place and size
+    control.m_strExStyle = WithoutSpaces(fields.Next());
+    control.m_strHelpID = WithoutSpaces(fields.Next());
+    dialog.m_items.Append(control);
+}

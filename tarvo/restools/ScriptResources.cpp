@@ -1,0 +1,188 @@
+#include "tarvo/restools/ScriptReader.h"
+
+#include "tarvo/text/Units.h"
+
+#include <iterator>
+#include <utility>
+
+namespace
+{
+bool BeginsMenuStatement(std::u16string_view word)
+{
+    return word == u"MENUITEM" || word == u"POPUP" || word == u"BEGIN" || word == u"END";
+}
+
+// An empty literal keeps its two quotes: a translator must see that the text is there and empty.
+CResText WithoutOuterQuotes(CResText text)
+{
+    if (text.size() <= 2)
+        return text;
+    if (text.back() == u'"')
+        text.remove_suffix(1);
+    if (text.front() == u'"')
+        text.remove_prefix(1);
+    return text;
+}
+
+// menu-item ::= MENUITEM SEPARATOR | MENUITEM text [","] id { "," option }
+CResMenuItem MenuItem(CScriptWords words, CTextArena& keep)
+{
+    CResMenuItem item;
+    item.m_strText = words.Next();
+    item.m_strID = words.Next();
+    words.EndWordsAt(WordSeparators::Comma);
+    std::u16string style;
+    for (CResText option; words.Next(option);)
+    {
+        if (!style.empty())
+            style += u'|';
+        std::remove_copy(option.begin(), option.end(), std::back_inserter(style), u' ');
+    }
+    item.m_strStyle = style.empty() ? CResText() : keep.Copy(style);
+    return item;
+}
+} // namespace
+
+// language ::= LANGUAGE word ...
+void CScriptReader::ReadLanguage()
+{
+    CScriptWords words = m_lines.At().words;
+    const CResText language = words.Next();
+    Log(u"Find language: ", language);
+    m_wanted = m_isWanted(language);
+    m_lines.Take();
+}
+
+// A resource is told by the second word of its first line, a string table by the first. False, and
+// nothing taken, for every other line.
+bool CScriptReader::ReadResource()
+{
+    const CScriptLine head = m_lines.At();
+    CScriptWords words = head.words;
+    const CResText type = words.Next();
+    if (type == u"MENU")
+        ReadMenu(head);
+    else if (type == u"TOOLBAR")
+        ReadToolbar(head);
+    // Without a third word, as in a block of design information, it is no dialog.
+    else if (type == u"DIALOGEX" || (type == u"DIALOG" && !CScriptWords(words).Next().empty()))
+        ReadDialog(head, type);
+    else if (type == u"BITMAP")
+        ReadSimple(m_resources.m_bitmaps, head, words);
+    else if (type == u"PNG")
+        ReadSimple(m_resources.m_pngs, head, words);
+    else if (type == u"ICON")
+        ReadSimple(m_resources.m_icons, head, words);
+    else if (type == u"CURSOR")
+        ReadSimple(m_resources.m_cursors, head, words);
+    else if (head.first == u"STRINGTABLE")
+        ReadStringTable();
+    else
+        return false;
+    return true;
+}
+
+// simple ::= name (BITMAP | PNG | ICON | CURSOR) file
+void CScriptReader::ReadSimple(CResBaseclass<CResSimple>& list, const CScriptLine& head, CScriptWords words)
+{
+    list.Append({head.first, words.Next(), head.number});
+    m_lines.Take();
+}
+
+// menu ::= name MENU ... { BEGIN | END | menu-item | POPUP text }, until an END has closed every BEGIN
+void CScriptReader::ReadMenu(const CScriptLine& head)
+{
+    CResMenu menu;
+    menu.m_strName = head.first;
+    menu.m_nLine = head.number;
+    unsigned separators = 0;
+    unsigned popups = 0;
+    m_lines.Take();
+    for (long long depth = -1; m_lines.Peek();)
+    {
+        const CResText first = m_lines.At().first;
+        if (first == u"MENUITEM" || first == u"POPUP")
+        {
+            CScriptLine statement = TakeStatement(m_lines, BeginsMenuStatement);
+            CResMenuItem item;
+            if (first == u"MENUITEM")
+                item = MenuItem(statement.words, Keep());
+            else
+                item = {statement.words.Next(), Numbered(u"POPUP", popups++), {}, 0};
+            if (first == u"MENUITEM" && item.m_strText == u"SEPARATOR")
+                item = {{}, Numbered(u"SEPARATOR", separators++), {}, 0};
+            item.m_nLine = statement.number;
+            menu.m_items.Append(item);
+            continue;
+        }
+        if (first == u"BEGIN")
+            ++depth;
+        else if (first == u"END")
+            --depth;
+        else
+            Log(u"Unkown line in menu section: ", m_lines.At().text);
+        m_lines.Take();
+        if (first == u"END" && depth < 0)
+            break;
+    }
+    m_resources.m_menus.Append(std::move(menu));
+}
+
+// toolbar ::= name TOOLBAR ... BEGIN { BUTTON id | SEPARATOR } END
+void CScriptReader::ReadToolbar(const CScriptLine& head)
+{
+    CResToolbar toolbar;
+    toolbar.m_strName = head.first;
+    toolbar.m_nLine = head.number;
+    unsigned separators = 0;
+    m_lines.Take();
+    for (bool isOpen = SkipToBegin(); isOpen && m_lines.Peek(); m_lines.Take())
+    {
+        const CScriptLine& line = m_lines.At();
+        if (line.first == u"BUTTON")
+            toolbar.m_items.Append({u"BUTTON", CScriptWords(line.words).Next(), line.number});
+        else if (line.first == u"SEPARATOR")
+            toolbar.m_items.Append({u"SEPARATOR", Numbered(u"SEPARATOR", separators++), line.number});
+        else if (line.first == u"END")
+            isOpen = false;
+        else
+            Log(u"Unkown toolbar line: ", line.text);
+    }
+    m_resources.m_toolbars.Append(std::move(toolbar));
+}
+
+// string-table ::= STRINGTABLE ... BEGIN { id [","] rest-of-line | id line-break line } END
+// The text is what stands from the first quote on, and pairs of quotes in it stay pairs.
+void CScriptReader::ReadStringTable()
+{
+    m_lines.Take();
+    bool isOpen = SkipToBegin();
+    while (isOpen && m_lines.Peek())
+    {
+        const CScriptLine line = m_lines.At();
+        m_lines.Take();
+        isOpen = line.first != u"END";
+        if (!isOpen)
+            break;
+        CResText text;
+        if (CScriptWords words = line.words; !words.Next(text))
+            text = ReadAloneText();
+        else
+        {
+            const char16_t* const end = line.text.data() + line.text.size();
+            const char16_t* const quote = units::find(line.text.data(), end, u'"');
+            text = {quote, static_cast<std::size_t>(end - quote)};
+        }
+        m_resources.m_strings.Append({line.first, WithoutOuterQuotes(text), line.number});
+    }
+}
+
+// The text of an identifier that stands alone is the next line, unless that ends the table.
+CResText CScriptReader::ReadAloneText()
+{
+    if (!m_lines.Peek() || m_lines.At().first == u"END")
+        return {};
+    const CResText text = units::trim(m_lines.At().text);
+    m_lines.Take();
+    return text;
+}

@@ -1,0 +1,163 @@
+#include "tarvo/restools/ScriptWords.h"
+
+#include <initializer_list>
+
+namespace
+{
+constexpr std::u16string_view emptyLiteral = u"\\\"";
+
+constexpr std::uint64_t Bits(std::initializer_list<char16_t> units)
+{
+    std::uint64_t bits = 0;
+    for (const char16_t c : units)
+        bits |= std::uint64_t{1} << c;
+    return bits;
+}
+
+constexpr std::uint64_t standardBits = Bits({u' ', u',', u'\t'});
+constexpr std::uint64_t commaBits = Bits({u','});
+constexpr std::uint64_t quoteBit = Bits({u'"'});
+} // namespace
+
+CScriptWords::CScriptWords(std::u16string_view line, WordSeparators separators, CTextArena& keep)
+    : m_begin(line.data()), m_at(m_begin), m_end(m_begin + line.size()), m_keep(&keep)
+{
+    EndWordsAt(separators);
+}
+
+void CScriptWords::EndWordsAt(WordSeparators separators)
+{
+    m_separators = separators == WordSeparators::Standard ? standardBits : commaBits;
+}
+
+// Moves to the first unit of the next word. \p isEmpty tells that a span was closed without one, which is
+// a word too.
+bool CScriptWords::FindWord(bool& isEmpty)
+{
+    while (true)
+    {
+        while (m_at != m_end && IsSeparator(*m_at))
+            ++m_at;
+        if (m_at == m_end)
+            return false;
+        if (*m_at != u'"' || IsPair(m_at) || IsEscaped(m_at))
+            return true;
+        ++m_at;
+        m_inSpan = !m_inSpan;
+        if (!m_inSpan)
+        {
+            isEmpty = true;
+            return true;
+        }
+    }
+}
+
+bool CScriptWords::Scan(Raw& raw)
+{
+    bool isEmpty = false;
+    if (!FindWord(isEmpty))
+        return false;
+    raw.first = raw.last = m_at;
+    if (isEmpty)
+        return true;
+
+    const std::uint64_t stops = m_separators | quoteBit;
+    while (true)
+    {
+        if (m_inSpan)
+            while (m_at != m_end && *m_at != u'"')
+                ++m_at;
+        else
+            while (m_at != m_end && !(*m_at < 64 && (stops >> *m_at & 1) != 0))
+                ++m_at;
+        raw.last = m_at;
+        if (m_at == m_end)
+            return true;
+        if (*m_at != u'"') // a separator
+            break;
+        // A pair is told before anything else: pairs are replaced before words are looked for.
+        if (IsPair(m_at))
+        {
+            raw.isPlain = false;
+            m_at += 2;
+        }
+        else if (IsEscaped(m_at))
+            ++m_at;
+        else if (m_inSpan)
+        {
+            m_inSpan = false;
+            break;
+        }
+        else // a span that opens inside a word
+        {
+            raw.isPlain = false;
+            m_inSpan = true;
+            ++m_at;
+        }
+    }
+    ++m_at;
+    return true;
+}
+
+std::u16string_view CScriptWords::Compose(const Raw& raw)
+{
+    char16_t* const begin = m_keep->Add(static_cast<std::size_t>(raw.last - raw.first));
+    char16_t* out = begin;
+    for (const char16_t* in = raw.first; in != raw.last;)
+    {
+        if (*in != u'"')
+            *out++ = *in++;
+        else if (IsPair(in))
+        {
+            *out++ = u'\\';
+            *out++ = u'"';
+            in += 2;
+        }
+        else if (IsEscaped(in))
+            *out++ = *in++;
+        else
+            ++in;
+    }
+    return {begin, static_cast<std::size_t>(out - begin)};
+}
+
+bool CScriptWords::Next(std::u16string_view& word)
+{
+    Raw raw;
+    if (!Scan(raw))
+    {
+        word = {};
+        return false;
+    }
+    word = {raw.first, static_cast<std::size_t>(raw.last - raw.first)};
+    if (word == u"\"\"") // by far the most frequent pair, and no copy of it is needed
+        word = {};
+    else if (!raw.isPlain)
+        word = Compose(raw);
+    if (word == emptyLiteral)
+        word = {};
+    return true;
+}
+
+std::u16string_view CScriptWords::Next()
+{
+    std::u16string_view word;
+    Next(word);
+    return word;
+}
+
+void CScriptWords::Skip(std::size_t count)
+{
+    Raw raw;
+    while (count-- != 0 && Scan(raw))
+    {
+    }
+}
+
+std::u16string ScriptWord(std::u16string_view line, std::size_t number, WordSeparators separators)
+{
+    CTextArena keep;
+    CScriptWords words(line, separators, keep);
+    words.Skip(number);
+    return std::u16string(words.Next());
+}
