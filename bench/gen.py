@@ -5,6 +5,8 @@ lang.utf16.ini lang.utf8.ini lang.cp949.ini   one language file: 60,000 keys in 
 wide.utf16.ini                                60,000 keys in 15,000 sections, for the growth of look-ups
 lang.keys.tsv wide.keys.tsv                   their section and key names, shuffled, for random look-ups
 resource.h                                    66,000 defines, as one module's resource header
+messages/                                     60,000 messages in 17 files, 10 % of them once more in a later one, and
+                                              the same compiled for gettext, Qt and ICU; messages.keys, shuffled
 text.cpN, text.cpN.utf16                      5 MiB of text for each of the code pages 949 932 936 1251
 
 A folder that is already complete is left alone; --force writes it again.
@@ -12,11 +14,13 @@ A folder that is already complete is left alone; --force writes it again.
 import codecs
 import os
 import random
+import subprocess
 import sys
+from xml.sax.saxutils import escape
 
 SEED = 42
 TEXT_BYTES = 5 * 1024 * 1024
-STAMP = "complete-1"  # change it with the contents
+STAMP = "complete-2"  # change it with the contents
 
 WORDS = ("file open save close window view edit insert format tools help print page row column table cell "
          "text font size color style border chart image link name path folder value list item select delete "
@@ -95,6 +99,64 @@ def plain_text(rng, character, codec):
     return "".join(lines)
 
 
+def quoted(text):
+    """A text as the sources of gettext and ICU write it."""
+    return '"' + text.replace("\\", "\\\\").replace('"', '\\"') + '"'
+
+
+def gettext_source(messages):
+    head = 'msgid ""\nmsgstr ""\n"Content-Type: text/plain; charset=UTF-8\\n"\n\n'
+    return head + "".join(f"msgid {quoted(key)}\nmsgstr {quoted(text)}\n\n" for key, text in messages)
+
+
+def qt_source(messages):
+    lines = (f"<message><source>{escape(key)}</source><translation>{escape(text)}</translation></message>\n"
+             for key, text in messages)
+    return ('<?xml version="1.0" encoding="utf-8"?>\n<!DOCTYPE TS>\n<TS version="2.1" language="ko_KR">\n'
+            "<context><name>c</name>\n" + "".join(lines) + "</context></TS>\n")
+
+
+def icu_source(messages):
+    return "ko {\n" + "".join(f"{key} {{ {quoted(text)} }}\n" for key, text in messages) + "}\n"
+
+
+def message_files(rng, words, folder):
+    """The message files of 17 modules, the same for gettext, Qt and ICU, and the keys in random order."""
+    messages = []
+    for number in range(60000):
+        key = f"MSG_{rng.choice(WORDS).upper()}_{rng.choice(WORDS).upper()}_{number:05d}"
+        messages.append((key, phrase(rng, words, max(3, int(rng.gauss(25, 10))))))
+    catalogues = os.path.join(folder, "ko", "LC_MESSAGES")
+    os.makedirs(catalogues, exist_ok=True)
+
+    def write(name, data):
+        with open(os.path.join(folder, name), "wb") as file:
+            file.write(data)
+
+    def compile_for_peers(name, part):
+        write(name + ".po", gettext_source(part).encode())
+        write(name + ".ts", qt_source(part).encode())
+        for command in (["msgfmt", name + ".po", "-o", f"ko/LC_MESSAGES/{name}.mo"],
+                        ["/usr/lib/qt6/bin/lrelease", "-silent", name + ".ts", "-qm", name + ".qm"]):
+            subprocess.run(command, cwd=folder, check=True)
+
+    compile_for_peers("all", messages)
+    write("ko.txt", icu_source(messages).encode())
+    subprocess.run(["genrb", "-q", "-s", ".", "-d", ".", "ko.txt"], cwd=folder, check=True)
+    for module in range(17):
+        part = messages[module::17]
+        own = {key for key, _ in part}
+        if module:
+            part += [message for message in rng.sample(messages, len(part) // 10) if message[0] not in own]
+        text = "; messages\r\n" + "".join(f'{key} = "{text}"\r\n' for key, text in part)
+        write(f"Module{module:02d}_kr.ini", codecs.BOM_UTF16_LE + text.encode("utf-16-le"))
+        write(f"Module{module:02d}_kr.cp949.ini", text.encode("cp949"))
+        compile_for_peers(f"Module{module:02d}", part)
+    keys = [key for key, _ in messages]
+    rng.shuffle(keys)
+    return keys
+
+
 def generate(folder):
     rng = random.Random(SEED)
 
@@ -124,6 +186,9 @@ def generate(folder):
     write("wide.keys.tsv", "".join(f"{section}\t{key}\n" for section, key in names).encode())
 
     write("resource.h", resource_header(rng).encode())
+
+    keys = message_files(random.Random(SEED + 1), words, os.path.join(folder, "messages"))
+    write("messages.keys", "".join(key + "\n" for key in keys).encode())
 
     kana = [chr(code) for code in (*range(0x3041, 0x3094), *range(0x30A1, 0x30F5))]
     kanji = double_byte("cp932", range(0x88, 0xA0), [*range(0x40, 0x7F), *range(0x80, 0xFD)])

@@ -16,7 +16,8 @@ declare -A groups=(
   [quick]="googletest"
   [tests]="googletest ${wine[*]}"
   [demo]="${wine[*]}"
-  [bench]="libbenchmark-dev libglib2.0-dev libicu-dev pkg-config googletest ${wine[*]}"
+  [bench]="libbenchmark-dev libglib2.0-dev libicu-dev icu-devtools gettext qt6-base-dev qt6-l10n-tools
+    libboost-locale-dev pkg-config googletest ${wine[*]}"
   [fuzz]="clang libclang-rt-dev llvm"
   [lint]="clang-format clang-tidy cppcheck git googletest ${wine[*]}"
   [coverage]="gcovr googletest"

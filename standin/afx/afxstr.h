@@ -277,7 +277,9 @@ private:
     static void Release(PXSTR psz) noexcept
     {
         CStringData* pData = GetData(psz);
-        if (pData->nAllocLength != 0 && pData->nRefs.fetch_sub(1, std::memory_order_acq_rel) <= 1)
+        // The only owner need not count: nobody else is there who could share the text meanwhile.
+        if (pData->nAllocLength != 0 && (pData->nRefs.load(std::memory_order_acquire) == 1 ||
+                                         pData->nRefs.fetch_sub(1, std::memory_order_acq_rel) <= 1))
             Free(pData);
     }
     static PXSTR Allocate(int nLength);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tarvo/export.h"
-#include "tarvo/lang/LineMarks.h"
+#include "tarvo/text/LineMarks.h"
 #include "tarvo/text/Units.h"
 
 #include <cstddef>
@@ -11,6 +11,9 @@
 /// How the text of an INI document is taken apart: functions from text to text, without a document.
 namespace initext
 {
+using textline::LineMarks;
+using textline::MarkLine;
+
 /// The kinds of lines, tried in the order blank, section, comment, data, other.
 enum LINE_TYPE
 {

@@ -8,31 +8,42 @@
 /// What a message file and a font file mean, whichever class gives their lines.
 namespace msgtext
 {
-/// Adds every entry of \p lines whose key is not there yet.
-template <class Lines>
-void AddEntries(Lines lines, CMessageStore& store)
+/// Adds every entry whose key is not there yet. \p next(line, marks) gives the lines of the file until it is
+/// false; a line has to be valid until the one after the next is asked for.
+template <class Next>
+void AddEntries(Next next, CMessageStore& store)
 {
     units::view line, key, value;
+    textline::LineMarks marks;
     std::u16string changed;
-    while (lines.Next(line))
+    std::uint32_t hash = 0;
+    // An entry is added when the next line has been read: its place is fetched from memory meanwhile.
+    bool waiting = false;
+    while (next(line, marks))
     {
-        if (!ParseEntry(line, key, value))
+        if (waiting)
+            store.Insert(key, value, hash);
+        waiting = ParseEntry(line, marks, key, value);
+        if (!waiting)
             continue;
+        hash = store.Announce(key);
         if (HasEscapes(value))
         {
             changed = value;
             changed.resize(Unescape(changed.data(), changed.size()));
             value = changed;
         }
-        store.Insert(key, value);
     }
+    if (waiting)
+        store.Insert(key, value, hash);
 }
 
-template <class Lines>
-void ReadFont(Lines lines, CString& fontName, int& fontSize)
+template <class Next>
+void ReadFont(Next next, CString& fontName, int& fontSize)
 {
     units::view line;
-    while (lines.Next(line))
+    textline::LineMarks marks;
+    while (next(line, marks))
         ReadFontLine(line, fontName, fontSize);
 }
 } // namespace msgtext

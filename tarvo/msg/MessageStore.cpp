@@ -1,6 +1,7 @@
 #include "tarvo/msg/MessageStore.h"
 
 #include <algorithm>
+#include <bit>
 #include <new>
 #include <utility>
 
@@ -22,7 +23,18 @@ CMessageStore& CMessageStore::operator=(const CMessageStore& source)
             const Record& record = source.At(slot);
             copy.Place(i, static_cast<std::uint32_t>(slot >> 32), record.Key(), record.Value());
         }
-    return *this = std::move(copy);
+    Swap(copy);
+    return *this;
+}
+
+void CMessageStore::Swap(CMessageStore& other) noexcept
+{
+    std::swap(m_arrSlot, other.m_arrSlot);
+    std::swap(m_arrBlock, other.m_arrBlock);
+    std::swap(m_nBlock, other.m_nBlock);
+    std::swap(m_nCount, other.m_nCount);
+    std::swap(m_nUsed, other.m_nUsed);
+    std::swap(m_nDead, other.m_nDead);
 }
 
 std::size_t CMessageStore::GetMemory() const
@@ -38,25 +50,35 @@ std::size_t CMessageStore::BytesOf(std::size_t units)
     return (sizeof(Record) + units * sizeof(char16_t) + kGrain - 1) / kGrain * kGrain;
 }
 
-CMessageStore::Record& CMessageStore::At(Slot slot) const
-{
-    const Ref ref = static_cast<Ref>(slot) - 1;
-    return *reinterpret_cast<Record*>(m_arrBlock[ref >> 16].bytes.get() + (ref & 0xFFFF) * kGrain);
-}
-
 std::size_t CMessageStore::SlotOf(units::view key, std::uint32_t hash) const
 {
     const std::size_t mask = m_arrSlot.size() - 1;
-    std::size_t i = hash & mask;
-    while (m_arrSlot[i] != 0 && (m_arrSlot[i] >> 32 != hash || !units::equal(At(m_arrSlot[i]).Key(), key)))
-        i = (i + 1) & mask;
-    return i;
+    for (std::size_t i = hash & mask;; i = (i + 1) & mask)
+    {
+        const Slot slot = m_arrSlot[i];
+        if (slot == 0)
+            return i;
+        if (slot >> 32 != hash)
+            continue;
+        const Record& record = At(slot);
+        __builtin_prefetch(record.Units() + 32);
+        __builtin_prefetch(record.Units() + 64);
+        if (units::equal(record.Key(), key))
+            return i;
+    }
 }
 
-bool CMessageStore::Insert(units::view key, units::view value)
+std::uint32_t CMessageStore::Announce(units::view key) const
+{
+    const std::uint32_t hash = units::hash(key);
+    if (!m_arrSlot.empty())
+        __builtin_prefetch(&m_arrSlot[hash & (m_arrSlot.size() - 1)], 1);
+    return hash;
+}
+
+bool CMessageStore::Insert(units::view key, units::view value, std::uint32_t hash)
 {
     MakeRoom();
-    const std::uint32_t hash = units::hash(key);
     const std::size_t slot = SlotOf(key, hash);
     if (m_arrSlot[slot] != 0)
         return false;
@@ -118,16 +140,24 @@ void CMessageStore::Place(std::size_t slot, std::uint32_t hash, units::view key,
 CMessageStore::Ref CMessageStore::Append(units::view key, units::view value)
 {
     const std::size_t bytes = BytesOf(key.size() + value.size());
-    if (m_arrBlock.empty() || m_arrBlock.back().size - m_arrBlock.back().used < bytes)
-        AddBlock(bytes);
-    Block& block = m_arrBlock.back();
-    const Ref ref = static_cast<Ref>((m_arrBlock.size() - 1) << 16 | block.used / kGrain);
-    auto* const record = new (block.bytes.get() + block.used)
+    Ref ref = 0;
+    auto* const record = new (Take(bytes, ref))
         Record{static_cast<std::uint32_t>(key.size()), static_cast<std::uint32_t>(value.size())};
     std::copy(value.begin(), value.end(), std::copy(key.begin(), key.end(), record->Units()));
-    block.used += bytes;
     m_nUsed += bytes;
     return ref;
+}
+
+char* CMessageStore::Take(std::size_t bytes, Ref& ref)
+{
+    while (m_nBlock < m_arrBlock.size() && m_arrBlock[m_nBlock].size - m_arrBlock[m_nBlock].used < bytes)
+        ++m_nBlock;
+    if (m_nBlock == m_arrBlock.size())
+        AddBlock(bytes);
+    Block& block = m_arrBlock[m_nBlock];
+    ref = static_cast<Ref>(m_nBlock << 16 | block.used / kGrain);
+    block.used += bytes;
+    return block.bytes.get() + block.used - bytes;
 }
 
 void CMessageStore::AddBlock(std::size_t least)
@@ -146,11 +176,15 @@ void CMessageStore::AddBlock(std::size_t least)
 
 void CMessageStore::MakeRoom()
 {
-    if (m_nCount + 1 <= m_arrSlot.size() / 4 * 3)
-        return;
-    std::vector<Slot> old(std::max(kFewSlots, 2 * m_arrSlot.size()));
+    if (m_nCount + 1 > m_arrSlot.size() / 4 * 3)
+        Index(std::max(kFewSlots, 2 * m_arrSlot.size()));
+}
+
+void CMessageStore::Index(std::size_t slots)
+{
+    std::vector<Slot> old(slots);
     old.swap(m_arrSlot);
-    const std::size_t mask = m_arrSlot.size() - 1;
+    const std::size_t mask = slots - 1;
     for (const Slot slot : old)
     {
         if (slot == 0)
@@ -162,8 +196,26 @@ void CMessageStore::MakeRoom()
     }
 }
 
+void CMessageStore::Clear()
+{
+    std::fill(m_arrSlot.begin(), m_arrSlot.end(), 0);
+    for (Block& block : m_arrBlock)
+        block.used = 0;
+    m_nBlock = m_nCount = m_nUsed = m_nDead = 0;
+}
+
+void CMessageStore::Trim()
+{
+    if (m_nCount == 0)
+        return CMessageStore().Swap(*this);
+    m_arrBlock.resize(m_nBlock + 1);
+    if (const std::size_t slots = std::max(kFewSlots, std::bit_ceil(m_nCount * 4 / 3 + 1));
+        slots < m_arrSlot.size() && m_nCount + 1 <= slots / 4 * 3)
+        Index(slots);
+}
+
 void CMessageStore::Tidy()
 {
     if (m_nDead > kTidyLeast && m_nDead > m_nUsed / 2)
-        *this = CMessageStore(*this);
+        CMessageStore(*this).Swap(*this);
 }

@@ -24,24 +24,29 @@ public:
 
     CMessageStore() = default;
     CMessageStore(const CMessageStore& source) { *this = source; }
-    CMessageStore(CMessageStore&& source) noexcept = default;
     CMessageStore& operator=(const CMessageStore& source);
-    CMessageStore& operator=(CMessageStore&& source) noexcept = default;
     ~CMessageStore() = default;
+    void Swap(CMessageStore& other) noexcept;
 
     std::size_t GetCount() const { return m_nCount; }
     /// Bytes taken from the system.
     std::size_t GetMemory() const;
 
     /// Adds a message; false, and nothing changes, when there is one with this key.
-    bool Insert(units::view key, units::view value);
+    bool Insert(units::view key, units::view value) { return Insert(key, value, Announce(key)); }
+    /// The same in two steps, for callers with something to do between them: meanwhile the place that the
+    /// key belongs to is fetched from memory. Announce gives the hash of the key.
+    std::uint32_t Announce(units::view key) const;
+    bool Insert(units::view key, units::view value, std::uint32_t hash);
     /// Adds a message or gives it a new text.
     void Set(units::view key, units::view value);
     /// The text of a key; valid until the next change.
     std::optional<units::view> Find(units::view key) const;
     /// All messages in the ordinal order of their keys; valid until the next change.
     std::vector<Message> Sorted() const;
-    void Clear() { *this = CMessageStore(); }
+    /// Drops all messages and keeps the memory for the next ones; Trim gives back what is not in use.
+    void Clear();
+    void Trim();
 
 private:
     /// Stands before the units of key and value, on a boundary of its own size's half.
@@ -75,17 +80,24 @@ private:
     };
 
     static std::size_t BytesOf(std::size_t units);
-    Record& At(Slot slot) const;
+    Record& At(Slot slot) const
+    {
+        const Ref ref = static_cast<Ref>(slot) - 1;
+        return *reinterpret_cast<Record*>(m_arrBlock[ref >> 16].bytes.get() + (ref & 0xFFFF) * kGrain);
+    }
     /// The slot of \p key, or the empty one where it belongs.
     std::size_t SlotOf(units::view key, std::uint32_t hash) const;
     void Place(std::size_t slot, std::uint32_t hash, units::view key, units::view value);
     Ref Append(units::view key, units::view value);
+    char* Take(std::size_t bytes, Ref& ref);
     void AddBlock(std::size_t least);
     void MakeRoom();
+    void Index(std::size_t slots);
     void Tidy();
 
     std::vector<Slot> m_arrSlot;
     std::vector<Block> m_arrBlock;
+    std::size_t m_nBlock = 0; ///< the block that is being filled; those behind it are empty
     std::size_t m_nCount = 0;
     std::size_t m_nUsed = 0; ///< bytes of all records
     std::size_t m_nDead = 0; ///< of these, bytes of texts that were replaced

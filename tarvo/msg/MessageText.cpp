@@ -12,22 +12,27 @@ namespace
 units::view CutRemark(units::view key)
 {
     constexpr units::view kMarker = u"/**/";
-    const char16_t* const end = key.data() + key.size();
-    if (units::find(key.data(), end, u'/') == end)
-        return key;
     const std::size_t marker = key.find(kMarker);
     return marker == units::view::npos ? key : key.substr(marker + kMarker.size());
 }
 
-/// The text between the quotes of a value's field.
-units::view Unquoted(units::view field)
+/// The text between the quotes of a value's field, which reaches to the end of the line.
+units::view Unquoted(units::view field, const textline::LineMarks& marks)
 {
-    const char16_t* const end = field.data() + field.size();
-    const std::size_t first = static_cast<std::size_t>(units::find(field.data(), end, u'"') - field.data());
-    if (first == field.size())
+    const char16_t* const begin = field.data();
+    const char16_t* const end = begin + field.size();
+    if (!marks.lastQuote || marks.lastQuote < begin)
         return field;
-    const std::size_t last = field.rfind(u'"');
-    return field.substr(first + 1, last == first ? units::view::npos : last - first - 1);
+    // The line's first quote may stand in the key or in a remark.
+    const char16_t* const first = marks.quote < begin ? units::find(begin, end, u'"') : marks.quote;
+    const char16_t* const last = first == marks.lastQuote ? end : marks.lastQuote;
+    return units::view(first + 1, static_cast<std::size_t>(last - first - 1));
+}
+
+bool Holds(units::view text, char16_t unit)
+{
+    const char16_t* const end = text.data() + text.size();
+    return units::find(text.data(), end, unit) != end;
 }
 
 char16_t ControlOf(char16_t letter)
@@ -46,23 +51,19 @@ char16_t ControlOf(char16_t letter)
 }
 } // namespace
 
-bool ParseEntry(units::view line, units::view& key, units::view& value)
+bool ParseEntry(units::view line, const textline::LineMarks& marks, units::view& key, units::view& value)
 {
     line = units::trim(line);
     if (line.empty() || line.front() == u';' || line.front() == u'[')
         return false;
-    const char16_t* const end = line.data() + line.size();
-    const units::view raw(line.data(),
-                          static_cast<std::size_t>(units::find(line.data(), end, u'=') - line.data()));
-    key = units::trim(CutRemark(raw));
-    value = Unquoted(line.substr(std::min(key.size() + 1, line.size())));
+    const units::view raw =
+        marks.equals ? line.substr(0, static_cast<std::size_t>(marks.equals - line.data())) : line;
+    key = units::trim(marks.slash ? CutRemark(raw) : raw);
+    value = Unquoted(line.substr(std::min(key.size() + 1, line.size())), marks);
     return true;
 }
 
-bool HasEscapes(units::view value)
-{
-    return value.find(u'\\') != units::view::npos || value.find(u"\"\"") != units::view::npos;
-}
+bool HasEscapes(units::view value) { return Holds(value, u'\\') || Holds(value, u'"'); }
 
 std::size_t Unescape(char16_t* text, std::size_t count)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tarvo/export.h"
+#include "tarvo/text/LineMarks.h"
 #include "tarvo/text/Units.h"
 
 #include <cstddef>
@@ -12,8 +13,10 @@ namespace msgtext
 /// The field of the value is counted from the line's end by the length of the trimmed key, so in «A = x» it
 /// is «= x»; files quote their texts, which makes that harmless. The value lies between the first and the
 /// last double quote of the field; with one quote it is what follows it, with none the whole field.
+/// \p marks is what textline::MarkLine finds in the line.
 /// False for a line that is blank or begins with ";" or "[": it has no entry, any other has one.
-TARVO_API bool ParseEntry(units::view line, units::view& key, units::view& value);
+TARVO_API bool ParseEntry(units::view line, const textline::LineMarks& marks, units::view& key,
+                          units::view& value);
 
 /// True when Unescape may change the text.
 TARVO_API bool HasEscapes(units::view value);

@@ -4,12 +4,20 @@
 
 void msg_parser::add_entries(const std::string& bytes)
 {
-    msgtext::AddEntries(CByteLines(bytes, m_nCodePage), m_store);
+    CByteLines stream(bytes, m_nCodePage);
+    const auto next = [&stream](units::view& line, textline::LineMarks& marks) {
+        const bool more = getline(stream, line);
+        marks = more ? textline::MarkLine(line) : textline::LineMarks();
+        return more;
+    };
+    msgtext::AddEntries(next, m_store);
 }
 
 void msg_parser::read_font(const std::string& bytes)
 {
-    msgtext::ReadFont(CByteLines(bytes, m_nCodePage), m_strFont, m_nFontSize);
+    CByteLines stream(bytes, m_nCodePage);
+    const auto next = [&stream](units::view& line, textline::LineMarks&) { return getline(stream, line); };
+    msgtext::ReadFont(next, m_strFont, m_nFontSize);
 }
 
 bool msg_parser::getline(CByteLines& stream, units::view& line) { return stream.Next(line); }

@@ -11,10 +11,14 @@ bool msg_parser2::set_value(const wchar_t* key, const wchar_t* value)
 
 void msg_parser2::add_entries(const std::string& bytes)
 {
-    msgtext::AddEntries(CStdioLines(bytes, m_nCodePage), m_store);
+    CStdioLines lines(bytes, m_nCodePage);
+    const auto next = [&](units::view& line, textline::LineMarks& marks) { return lines.Next(line, marks); };
+    msgtext::AddEntries(next, m_store);
 }
 
 void msg_parser2::read_font(const std::string& bytes)
 {
-    msgtext::ReadFont(CStdioLines(bytes, m_nCodePage), m_strFont, m_nFontSize);
+    CStdioLines lines(bytes, m_nCodePage);
+    const auto next = [&](units::view& line, textline::LineMarks& marks) { return lines.Next(line, marks); };
+    msgtext::ReadFont(next, m_strFont, m_nFontSize);
 }

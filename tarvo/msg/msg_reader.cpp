@@ -42,6 +42,7 @@ bool msg_reader::load()
     load_font();
     for (const CString& path : m_arrPath)
         read_messages(path);
+    m_store.Trim();
     return true;
 }
 
@@ -63,8 +64,8 @@ bool msg_reader::read_messages(const CString& path)
 
 CString msg_reader::get_value(const wchar_t* key) const
 {
-    CString value;
-    return find_value(key, value) ? value : CString(key) + L" :";
+    const auto found = m_store.Find(CUnits(key));
+    return found ? units::to_string(*found) : CString(key) + L" :";
 }
 
 bool msg_reader::find_value(const wchar_t* key, CString& value) const

@@ -110,9 +110,15 @@ TYPED_TEST(MessageReader, EmptyFilesGiveNothing)
     EXPECT_EQ(this->reader.messages("\r\n\r\n"), L"");
 }
 
-TYPED_TEST(MessageReader, TextEndsAtControlZ)
+TYPED_TEST(MessageReader, EightBitTextEndsAtControlZ)
 {
     EXPECT_EQ(this->reader.messages("A=\"1\"\nB=\"2\x1A\nC=\"3\"\n"), L"A=1;B=2;");
+}
+
+TYPED_TEST(MessageReader, EscapesOfOneLineDoNotReachTheNext)
+{
+    EXPECT_EQ(this->reader.messages("A=\"1\\n\"\n;\nB=\"2\\t\"\nC=\"3\"\n\nD=\"4\\\\\""),
+              L"A=1\n;B=2\t;C=3;D=4\\;");
 }
 
 TYPED_TEST(MessageReader, LoadsTheFilesOfItsListInOrderAndPassesOverWhatIsMissing)
@@ -262,6 +268,48 @@ TEST(PrimaryReader, ReadsUtf16BehindItsMark)
     CPrimary reader;
     EXPECT_EQ(reader.messages(utf16(L"\xAC00=\"\xB098\xD83D\xDE00\"\r\nB=\"2\"\n")),
               L"B=2;\xAC00=\xB098\xD83D\xDE00;");
+}
+
+TEST(PrimaryReader, ALineOfUtf16MayHoldControlZAndNul)
+{
+    CPrimary reader;
+    reader.messages(utf16(L"A=\"1\x1A"
+                          L"2\"\nB=\"" +
+                          std::wstring(1, L'\0') + L"\"\n"));
+    EXPECT_EQ(reader.get_value(L"A"), L"1\x1A"
+                                      L"2");
+    EXPECT_EQ(reader.get_value(L"B").GetLength(), 1);
+}
+
+TEST(PrimaryReader, LongerLinesComeInPiecesOf4096)
+{
+    for (const std::size_t length : {4095u, 4096u, 4097u, 8192u, 8193u})
+    {
+        const std::wstring line = L"A=\"" + std::wstring(length - 4, L'x') + L"\"";
+        const std::size_t kept = std::min<std::size_t>(length, 4096) - (length > 4096 ? 3 : 4);
+        const std::size_t entries = length <= 4096 ? 2 : length <= 8192 ? 3 : 4;
+        for (const bool wide : {false, true})
+        {
+            CPrimary reader;
+            const std::wstring text = line + L"\r\nB=\"2\"\r\n";
+            reader.messages(wide ? utf16(text) : narrow(text));
+            EXPECT_EQ(reader.get_value(L"A").GetLength(), static_cast<int>(kept)) << length;
+            EXPECT_EQ(reader.get_value(L"B"), L"2") << length;
+            EXPECT_EQ(reader.store().GetCount(), entries) << length;
+        }
+    }
+}
+
+TEST(PrimaryReader, APieceEndsBetweenTwoCharacters)
+{
+    CPrimary reader;
+    reader.messages("A=\"" + std::string(4092, 'x') + "\xB0\xA1=y\n", 949);
+    EXPECT_EQ(reader.get_value(L"A"), std::wstring(4092, L'x').c_str());
+    EXPECT_EQ(reader.get_value(L"\xAC00"), L"y");
+    CPrimary pairs;
+    pairs.messages(utf16(L"A=\"" + std::wstring(4092, L'x') + L"\xD83D\xDE00=y\n"));
+    EXPECT_EQ(pairs.get_value(L"A"), std::wstring(4092, L'x').c_str());
+    EXPECT_EQ(pairs.get_value(L"\xD83D\xDE00"), L"y");
 }
 
 TEST(PrimaryReader, DropsAnOddByteAtTheEndOfUtf16)

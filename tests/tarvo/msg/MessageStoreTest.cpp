@@ -108,6 +108,46 @@ TEST(MessageStore, CopiesAreIndependent)
     EXPECT_TRUE(copy.Insert(u"A", u"1"));
 }
 
+TEST(MessageStore, AClearedOneKeepsItsMemoryForTheNextMessagesUntilItIsTrimmed)
+{
+    CMessageStore store = many(20000);
+    const std::size_t full = store.GetMemory();
+    for (int round = 0; round < 3; ++round)
+    {
+        store.Clear();
+        EXPECT_EQ(store.GetCount(), 0u);
+        EXPECT_FALSE(store.Find(u"KEY_1").has_value());
+        for (int i = 0; i < 20000; ++i)
+            ASSERT_TRUE(store.Insert(numbered(u"KEY_", i), numbered(u"text ", i)));
+        EXPECT_EQ(store.GetMemory(), full);
+    }
+    store.Clear();
+    store.Insert(u"A", u"1");
+    store.Trim();
+    EXPECT_LT(store.GetMemory(), std::size_t{10000});
+    EXPECT_EQ(dump(store), L"A=1;");
+    store.Clear();
+    store.Trim();
+    EXPECT_EQ(store.GetMemory(), 0u);
+    EXPECT_TRUE(store.Insert(u"A", u"2"));
+}
+
+TEST(MessageStore, TrimmingKeepsEveryMessage)
+{
+    for (const int count : {1, 11, 12, 13, 1000, 24575, 24576, 24577})
+    {
+        CMessageStore store = many(30000);
+        store.Clear();
+        for (int i = 0; i < count; ++i)
+            store.Insert(numbered(u"KEY_", i), numbered(u"text ", i));
+        store.Trim();
+        for (int i = 0; i < count; ++i)
+            ASSERT_EQ(store.Find(numbered(u"KEY_", i)), numbered(u"text ", i)) << count;
+        EXPECT_TRUE(store.Insert(u"one more", u""));
+        EXPECT_FALSE(store.Find(u"unknown").has_value());
+    }
+}
+
 TEST(MessageStore, MemoryStaysBoundedWhenTextsChangeAgainAndAgain)
 {
     CMessageStore store = many(100);

@@ -25,7 +25,7 @@ void check(const Row& row)
 {
     SCOPED_TRACE(testing::PrintToString(std::u16string(row.line)));
     units::view key, value;
-    ASSERT_EQ(msgtext::ParseEntry(row.line, key, value), row.entry != nullptr);
+    ASSERT_EQ(msgtext::ParseEntry(row.line, textline::MarkLine(row.line), key, value), row.entry != nullptr);
     if (row.entry)
     {
         EXPECT_EQ(units::to_string(key) + L"|" + text_of(value), row.entry);

@@ -3,8 +3,8 @@
 #include "tarvo/export.h"
 #include "tarvo/text/Units.h"
 
-/// The characters that take a line of a language file apart, found in one pass over it.
-namespace initext
+/// The characters that take a line of a language or message file apart, found in one pass over it.
+namespace textline
 {
 /// Where they stand in a line; null for one that is not there.
 struct LineMarks
@@ -21,4 +21,4 @@ TARVO_API const char16_t* MarkLine(const char16_t* first, const char16_t* last, 
 
 /// The marks of a whole line, whatever stands in it.
 TARVO_API LineMarks MarkLine(units::view line);
-} // namespace initext
+} // namespace textline

@@ -1,11 +1,11 @@
-#include "tarvo/lang/LineMarks.h"
+#include "tarvo/text/LineMarks.h"
 
 #include "tarvo/text/UnitBlock.h"
 
 #include <algorithm>
 #include <bit>
 
-namespace initext
+namespace textline
 {
 namespace
 {
@@ -61,4 +61,4 @@ LineMarks MarkLine(units::view line)
         p = MarkLine(p + 1, end, marks);
     return marks;
 }
-} // namespace initext
+} // namespace textline
