@@ -45,12 +45,12 @@ XIni& document(const char* name)
 void look_up(benchmark::State& state, const char* file, const char* names)
 {
     XIni& ini = document(file);
-    const auto& keys = bench::wide_keys(names);
+    const auto& keys = bench::key_names<wchar_t>(names);
     std::size_t at = 0;
     for (auto _ : state)
     {
-        const auto& [section, key] = keys[at];
-        benchmark::DoNotOptimize(ini.GetStr(section.c_str(), key.c_str(), L""));
+        const auto [section, key] = keys[at];
+        benchmark::DoNotOptimize(ini.GetStr(section, key, L""));
         at = at + 1 == keys.size() ? 0 : at + 1;
     }
 }

@@ -6,14 +6,28 @@
 
 namespace bench
 {
-const std::vector<WideKey>& wide_keys(const char* name)
+template <class Char>
+KeyNames<Char>::KeyNames(const char* name)
 {
-    static std::map<std::string, std::vector<WideKey>> known;
-    std::vector<WideKey>& keys = known[name];
-    if (keys.empty())
-        for (const auto& [section, key] : data_pairs(name))
-            keys.emplace_back(std::wstring(section.begin(), section.end()),
-                              std::wstring(key.begin(), key.end()));
-    return keys;
+    const auto add = [this](const std::string& text) {
+        m_starts.push_back(static_cast<std::uint32_t>(m_texts.size()));
+        m_texts.insert(m_texts.end(), text.begin(), text.end());
+        m_texts.push_back(0);
+    };
+    for (const auto& [section, key] : data_pairs(name))
+    {
+        add(section);
+        add(key);
+    }
 }
+
+template <class Char>
+const KeyNames<Char>& key_names(const char* name)
+{
+    static std::map<std::string, KeyNames<Char>> known;
+    return known.try_emplace(name, name).first->second;
+}
+
+template const KeyNames<char>& key_names(const char*);
+template const KeyNames<wchar_t>& key_names(const char*);
 } // namespace bench

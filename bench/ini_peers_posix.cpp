@@ -74,23 +74,18 @@ void glib_load_cp949(benchmark::State& state)
     }
 }
 
-const std::vector<std::pair<std::string, std::string>>& narrow_keys()
-{
-    static const auto keys = bench::data_pairs("lang.keys.tsv");
-    return keys;
-}
-
 void glib_look_up(benchmark::State& state)
 {
     const KeyFile file = load_key_file(bench::data_bytes("lang.utf8.ini"));
+    const auto& keys = bench::key_names<char>("lang.keys.tsv");
     std::size_t at = 0;
     for (auto _ : state)
     {
-        const auto& [section, key] = narrow_keys()[at];
-        char* const value = g_key_file_get_value(file.get(), section.c_str(), key.c_str(), nullptr);
+        const auto [section, key] = keys[at];
+        char* const value = g_key_file_get_value(file.get(), section, key, nullptr);
         benchmark::DoNotOptimize(value);
         g_free(value);
-        at = at + 1 == narrow_keys().size() ? 0 : at + 1;
+        at = at + 1 == keys.size() ? 0 : at + 1;
     }
 }
 
@@ -102,10 +97,11 @@ void hash_look_up(benchmark::State& state)
     ini.OpenMemory(reinterpret_cast<const unsigned char*>(bytes.data()), static_cast<int>(bytes.size()));
     std::unordered_map<std::wstring, std::wstring> table;
     std::vector<std::wstring> names;
-    for (const auto& [section, key] : bench::wide_keys("lang.keys.tsv"))
+    const auto& keys = bench::key_names<wchar_t>("lang.keys.tsv");
+    for (std::size_t i = 0; i < keys.size(); ++i)
     {
-        names.push_back(section + L'\n' + key);
-        table[names.back()] = ini.GetStr(section.c_str(), key.c_str(), L"").GetString();
+        names.push_back(std::wstring(keys[i].section) + L'\n' + keys[i].key);
+        table[names.back()] = ini.GetStr(keys[i].section, keys[i].key, L"").GetString();
     }
     std::size_t at = 0;
     for (auto _ : state)
@@ -147,7 +143,8 @@ void ini_held(benchmark::State& state)
                             static_cast<double>(before.uordblks + before.hblkhd);
         state.counters["held_of_text"] = held / static_cast<double>(bytes.size() - 2);
         state.counters["allocations_per_key"] =
-            static_cast<double>(allocations - allocationsBefore) / static_cast<double>(narrow_keys().size());
+            static_cast<double>(allocations - allocationsBefore) /
+            static_cast<double>(bench::key_names<char>("lang.keys.tsv").size());
     }
 }
 

@@ -19,10 +19,10 @@ std::wstring full_path(const char* name)
     return full;
 }
 
-void ask(const std::wstring& file, const bench::WideKey& key, benchmark::State& state)
+void ask(const std::wstring& file, const bench::KeyNames<wchar_t>::Pair& key, benchmark::State& state)
 {
     wchar_t value[1024];
-    if (GetPrivateProfileStringW(key.first.c_str(), key.second.c_str(), L"", value, 1024, file.c_str()) == 0)
+    if (GetPrivateProfileStringW(key.section, key.key, L"", value, 1024, file.c_str()) == 0)
         state.SkipWithError("the system does not find a key that is there");
     benchmark::DoNotOptimize(value[0]);
 }
@@ -34,14 +34,14 @@ void profile_load(benchmark::State& state)
     for (auto _ : state)
     {
         WritePrivateProfileStringW(nullptr, nullptr, nullptr, file.c_str());
-        ask(file, bench::wide_keys("lang.keys.tsv").front(), state);
+        ask(file, bench::key_names<wchar_t>("lang.keys.tsv")[0], state);
     }
 }
 
 void profile_look_up(benchmark::State& state)
 {
     const std::wstring file = full_path("lang.utf16.ini");
-    const auto& keys = bench::wide_keys("lang.keys.tsv");
+    const auto& keys = bench::key_names<wchar_t>("lang.keys.tsv");
     std::size_t at = 0;
     for (auto _ : state)
     {

@@ -31,15 +31,6 @@ XIni& XIni::operator=(const XIni& source)
     return *this;
 }
 
-XIni::XIni(XIni&& source) : XIni() { Swap(source); }
-
-XIni& XIni::operator=(XIni&& source)
-{
-    XIni taken(std::move(source));
-    Swap(taken);
-    return *this;
-}
-
 void XIni::Swap(XIni& other)
 {
     std::swap(m_pStore, other.m_pStore);

@@ -40,9 +40,6 @@ public:
     /// Copies are deep: nothing is shared.
     XIni(const XIni& source);
     XIni& operator=(const XIni& source);
-    /// The source is left empty, as constructed.
-    XIni(XIni&& source);
-    XIni& operator=(XIni&& source);
 
     /// Clears the document and reads a file. 1 when the file was read, whatever it holds (IsOpened tells
     /// whether there was anything to parse); 0, with the document empty, when it is missing, unreadable,

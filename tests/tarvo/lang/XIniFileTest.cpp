@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
 using namespace std::string_literals;
 
 namespace
@@ -256,4 +259,20 @@ TEST_F(XIniFile, SaveFailsOnlyWhereTheFileCannotBeOpened)
     EXPECT_EQ(ini.SaveAs(L""), 0);
     EXPECT_EQ(ini.SaveAs(nullptr), 0);
     EXPECT_EQ(folder.count(), 0);
+}
+
+TEST_F(XIniFile, SaveOverAReadOnlyFileFailsAndLeavesIt)
+{
+    write("kept");
+    const std::filesystem::path file(path);
+    constexpr auto writes = std::filesystem::perms::owner_write | std::filesystem::perms::group_write |
+                            std::filesystem::perms::others_write;
+    std::filesystem::permissions(file, writes, std::filesystem::perm_options::remove);
+    if (std::ofstream(file, std::ios::app))
+        GTEST_SKIP() << "this user may write read-only files";
+    XIni ini;
+    ini.SetStr(L"A", L"k", L"v");
+    EXPECT_EQ(ini.SaveAs(path.c_str()), 0);
+    EXPECT_EQ(read(), "kept");
+    std::filesystem::permissions(file, writes, std::filesystem::perm_options::add);
 }
