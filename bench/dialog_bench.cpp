@@ -17,7 +17,7 @@ struct Dialog
 {
     Dialog()
     {
-        window = ::CreateWindowExW(0, L"STATIC", L"Setup", WS_POPUP, 0, 0, 800, 600, nullptr, nullptr,
+        window = ::CreateWindowExW(0, L"STATIC", L"Setup", WS_POPUP | WS_VISIBLE, 0, 0, 800, 600, nullptr, nullptr,
                                    nullptr, nullptr);
         std::wstring header = L"#define IDD_SETUP 120\n";
         std::wstring ini = L"[IDD_SETUP]\nIDD_SETUP=Einstellungen\n";
@@ -26,7 +26,7 @@ struct Dialog
             const std::wstring number = std::to_wstring(id);
             header += L"#define IDC_CONTROL_" + number + L" " + number + L"\n";
             ini += L"IDC_CONTROL_" + number + L"=" + text(id) + L"\n";
-            labels.push_back(::CreateWindowExW(0, L"STATIC", L"text", WS_CHILD, 0, 0, 100, 20, window,
+            labels.push_back(::CreateWindowExW(0, L"STATIC", L"text", WS_CHILD | WS_VISIBLE, 0, 0, 100, 20, window,
                                                reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr,
                                                nullptr));
         }

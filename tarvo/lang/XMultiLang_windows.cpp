@@ -32,6 +32,29 @@ std::vector<HWND> ChildrenOf(HWND dialog)
 }
 
 bool IsChildOf(HWND child, HWND dialog) { return ::IsWindow(child) && ::GetParent(child) == dialog; }
+
+/// Holds back a visible window's painting, which then happens once instead of for every text.
+class CPaintingPause
+{
+public:
+    explicit CPaintingPause(HWND window) : m_window(::IsWindowVisible(window) ? window : nullptr)
+    {
+        if (m_window)
+            ::SendMessageW(m_window, WM_SETREDRAW, FALSE, 0);
+    }
+    ~CPaintingPause()
+    {
+        if (!::IsWindow(m_window))
+            return;
+        ::SendMessageW(m_window, WM_SETREDRAW, TRUE, 0);
+        ::RedrawWindow(m_window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+    }
+    CPaintingPause(const CPaintingPause&) = delete;
+    CPaintingPause& operator=(const CPaintingPause&) = delete;
+
+private:
+    HWND m_window;
+};
 } // namespace
 
 int XMultiLang::LoadResourceHeader(int id, const wchar_t* type)
@@ -77,6 +100,7 @@ CTranslateCount XMultiLang::TranslateDialog(HWND dialog, unsigned int id)
     if (!SelectDialog(id) || !::IsWindow(dialog))
         return count;
     const std::vector<HWND> children = ChildrenOf(dialog);
+    const CPaintingPause pause(dialog);
     TranslateWindow(dialog, m_strDialog, count);
     for (const HWND child : children)
     {
@@ -95,6 +119,7 @@ void XMultiLang::SetDlgTexts(HWND dialog, unsigned int id, CString project)
     m_nMsgProject = qlx::lib::TranslateUtil::GetMSGPROJbyName(project);
     if (!SelectDialog(id))
         return;
+    const CPaintingPause pause(dialog);
     const CString caption = TextOf(dialog);
     if (!caption.IsEmpty())
     {

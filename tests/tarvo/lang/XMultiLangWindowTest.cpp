@@ -106,6 +106,16 @@ LRESULT CALLBACK DestroyParentProc(HWND window, UINT message, WPARAM wParam, LPA
     return ::CallWindowProcW(original, window, message, wParam, lParam);
 }
 
+BOOL g_wasVisible = TRUE;
+
+/// Notes whether the window can be painted when it gets a text.
+LRESULT CALLBACK NoteVisibilityProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_SETTEXT)
+        g_wasVisible = ::IsWindowVisible(window);
+    return ::CallWindowProcW(g_original, window, message, wParam, lParam);
+}
+
 void make_destructive(HWND window)
 {
     g_original = reinterpret_cast<WNDPROC>(
@@ -220,6 +230,31 @@ TEST_F(Dialogs, CountWhereTheirTextsCameFrom)
     EXPECT_EQ(count.nFallback, 3);
     EXPECT_EQ(count.nMissing, 1);
     EXPECT_EQ(dump(table.GetMissingKeys()), L"[IDD_SETUP] IDCANCEL=#Need to Copy..#;");
+}
+
+TEST_F(Dialogs, ThatAreShownPaintOnceWhenAllTheirTextsAreThere)
+{
+    const HWND name = make(dialog, L"Name", 1001, WS_CHILD | WS_VISIBLE);
+    const HWND size = make(dialog, L"Size", 1002, WS_CHILD | WS_VISIBLE);
+    ::SetWindowPos(dialog, nullptr, 0, 0, 400, 300, SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    ::RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    g_original = reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(size, GWLP_WNDPROC));
+    ::SetWindowLongPtrW(size, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&NoteVisibilityProc));
+    open(L"[IDD_SETUP]\nIDC_NAME=Nimi\nIDC_SIZE=Koko\n");
+    table.TranslateDialog(dialog, 120);
+    EXPECT_EQ(g_wasVisible, FALSE) << "painting waits while the texts are set";
+    EXPECT_EQ(texts(), L"Setup|Nimi|Koko");
+    EXPECT_TRUE(::IsWindowVisible(name)) << "and the dialog is as visible as before";
+    EXPECT_TRUE(::GetUpdateRect(name, nullptr, FALSE)) << "what is to be painted is marked";
+}
+
+TEST_F(Dialogs, ThatAreHiddenStayHidden)
+{
+    child(L"Name", 1001);
+    open(L"[IDD_SETUP]\nIDC_NAME=Nimi\n");
+    table.TranslateDialog(dialog, 120);
+    table.SetDlgTexts(dialog, 120, L"Project");
+    EXPECT_FALSE(::IsWindowVisible(dialog));
 }
 
 TEST_F(Dialogs, MayBeDestroyedWhileTheyAreTranslated)
