@@ -119,7 +119,7 @@ struct ExitStatus
 };
 
 inline constexpr std::string_view program_summary =
-    "language files and resource headers without a host application";
+    "language files, resource headers and scripts without a host";
 extern const std::string_view program_description;
 extern const std::string_view program_version;
 

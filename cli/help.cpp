@@ -59,6 +59,25 @@ std::string exit_table()
     return table("Exit status", rows);
 }
 
+/// A synopsis behind \p lead, broken before an option where a line would be too long.
+std::string usage(std::string_view lead, const std::string& synopsis)
+{
+    std::string text(lead);
+    std::size_t width = text.size();
+    for (std::size_t at = 0, end; at < synopsis.size(); at = end)
+    {
+        end = std::min(synopsis.find(" [", at + 1), synopsis.size());
+        if (width + end - at > 80)
+        {
+            text.append("\n").append(lead.size() + 3, ' ');
+            width = lead.size() + 3;
+        }
+        text.append(synopsis, at, end - at);
+        width += end - at;
+    }
+    return text + "\n";
+}
+
 std::string program_help()
 {
     std::string text = "Usage: tarvo GROUP COMMAND [OPTIONS] FILE...\n\n";
@@ -79,7 +98,7 @@ std::string group_help(const Group& group)
 {
     std::string text;
     for (const Command& command : group.commands)
-        text.append(text.empty() ? "Usage: " : "       ").append(synopsis(group, command)).append("\n");
+        text += usage(text.empty() ? "Usage: " : "       ", synopsis(group, command));
     text += "\n" + wrapped(group.summary, 0);
     std::vector<Row> rows;
     for (const Command& command : group.commands)
@@ -91,7 +110,7 @@ std::string group_help(const Group& group)
 
 std::string command_help(const Group& group, const Command& command)
 {
-    std::string text = "Usage: " + synopsis(group, command) + "\n\n" + wrapped(command.description, 0);
+    std::string text = usage("Usage: ", synopsis(group, command)) + "\n" + wrapped(command.description, 0);
     std::vector<Row> rows;
     for (const Operand& operand : command.operands)
         rows.push_back({std::string(operand.name), operand.help});

@@ -18,6 +18,7 @@ public:
     JsonWriter& key(std::string_view name);
     JsonWriter& text(std::wstring_view value);
     JsonWriter& number(long long value) { return word(std::to_string(value)); }
+    JsonWriter& boolean(bool value) { return word(value ? "true" : "false"); }
     JsonWriter& null() { return word("null"); }
 
     /// The text with a line feed at its end; the writer is empty afterwards.

@@ -33,7 +33,8 @@ TEST(ManualPage, NamesEachCommandOperandOptionAndExitStatus)
     for (const cli::Group& group : cli::groups())
         for (const cli::Command& command : group.commands)
             for (const cli::Option& option : command.options)
-                EXPECT_THAT(page, HasSubstr("\\fB" + dashed("--" + std::string(option.name)) + "\\fR \\fI"));
+                EXPECT_THAT(page, HasSubstr("\\fB" + dashed("--" + std::string(option.name)) + "\\fR" +
+                                            (option.placeholder.empty() ? "\n" : " \\fI")));
     for (const cli::ExitStatus& exit : cli::exit_statuses())
         EXPECT_THAT(page, HasSubstr("\\fB" + std::to_string(static_cast<int>(exit.status)) + "\\fR\n"));
 }
