@@ -135,9 +135,10 @@ public:
 
     /// Formats as the Windows wide functions do, on every platform: %s is text of this string's own
     /// character type and %S of the other, %hs 8-bit and %ls wide; %c %C likewise. %l integers have 32
-    /// bits, %ll, %I64 and %j 64, %I, %z and %t a pointer's. %p gives all hexadecimal digits in capitals.
-    /// A null text is "(null)"; %n stores nothing; an unknown conversion stands as it is written.
-    /// Arguments may be texts of this string itself.
+    /// bits, %ll, %I64 and %j 64, %I, %z and %t a pointer's. %Lf is a double like %f, and %a has thirteen
+    /// digits unless it says how many. %p gives all hexadecimal digits in capitals. A null text is "(null)";
+    /// %n stores nothing; an unknown conversion stands as it is written. Arguments may be texts of this
+    /// string itself.
     void Format(PCXSTR pszFormat, ...);
     /// With the resource string \p nFormatID as the format; throws CInvalidArgException when it is missing.
     void Format(UINT nFormatID, ...);

@@ -269,11 +269,11 @@ Number integer(const Conversion& c, bool negative, std::uint64_t magnitude)
     return r;
 }
 
-template <class F>
-std::string float_chars(F value, std::chars_format form, int precision)
+std::string float_chars(double value, std::chars_format form, int precision)
 {
-    std::string s(
-        static_cast<std::size_t>(std::max(precision, 0)) + std::numeric_limits<F>::max_exponent10 + 40, '\0');
+    std::string s(static_cast<std::size_t>(std::max(precision, 0)) +
+                      std::numeric_limits<double>::max_exponent10 + 40,
+                  '\0');
     const auto end = precision < 0 ? std::to_chars(s.data(), s.data() + s.size(), value, form)
                                    : std::to_chars(s.data(), s.data() + s.size(), value, form, precision);
     s.resize(static_cast<std::size_t>(end.ptr - s.data()));
@@ -281,8 +281,7 @@ std::string float_chars(F value, std::chars_format form, int precision)
 }
 
 // %#g: as %g, with the zeros at the end that %g drops.
-template <class F>
-std::string general_with_zeros(F value, int precision)
+std::string general_with_zeros(double value, int precision)
 {
     const int digits = std::max(precision, 1);
     const std::string scientific = float_chars(value, std::chars_format::scientific, digits - 1);
@@ -292,8 +291,7 @@ std::string general_with_zeros(F value, int precision)
                : float_chars(value, std::chars_format::fixed, digits - 1 - exponent);
 }
 
-template <class F>
-Number floating(const Conversion& c, F value)
+Number floating(const Conversion& c, double value)
 {
     Number r;
     r.prefix = sign(c, std::signbit(value));
@@ -309,7 +307,7 @@ Number floating(const Conversion& c, F value)
     else if (type == 'a')
     {
         r.prefix += "0x";
-        r.digits = float_chars(value, std::chars_format::hex, c.precision);
+        r.digits = float_chars(value, std::chars_format::hex, c.precision < 0 ? 13 : precision);
     }
     else if (type == 'g' && c.alternate)
         r.digits = general_with_zeros(value, precision);
@@ -379,8 +377,10 @@ bool Formatter<T>::Write(const Conversion& c)
     case 'G':
     case 'a':
     case 'A':
-        WriteNumber(c, c.size == Size::big_float ? floating(c, va_arg(m_args.list, long double))
-                                                 : floating(c, va_arg(m_args.list, double)));
+        // A double either way: the system's long double is one.
+        WriteNumber(c, floating(c, c.size == Size::big_float
+                                       ? static_cast<double>(va_arg(m_args.list, long double))
+                                       : va_arg(m_args.list, double)));
         return true;
     case 'n': // writing through an argument is how format strings are abused
         static_cast<void>(va_arg(m_args.list, void*));

@@ -88,10 +88,10 @@ TEST(CStringFormat, NumbersWithAPointAreTheSameEverywhere)
     EXPECT_EQ(format(L"%+f % .1f %+.1f", 1.0, 1.0, -1.0), L"+1.000000  1.0 -1.0");
     EXPECT_EQ(format(L"%#.0f %#g %#.3g %#.2e %#.0e %#g", 2.0, 1.0, 1e7, 5.0, 5.0, 1e-5),
               L"2. 1.00000 1.00e+07 5.00e+00 5.e+00 1.00000e-05");
-    EXPECT_EQ(format(L"%a %.1A", 1.5, 1.5), L"0x1.8p+0 0X1.8P+0");
+    EXPECT_EQ(format(L"%a %.1A %.0a", 1.5, 1.5, 1.0), L"0x1.8000000000000p+0 0X1.8P+0 0x1p+0");
     EXPECT_EQ(format(L"%5f|%-5F|%05f|%+e", inf, -inf, inf, inf), L"  inf|-INF |  inf|+inf");
     EXPECT_EQ(format(L"%f %G", std::nan(""), std::nan("")), L"nan NAN");
-    EXPECT_EQ(format(L"%.1Lf", 2.25L), L"2.2");
+    EXPECT_EQ(format(L"%.1Lf|%.1La", 2.25L, 3.0L), L"2.2|0x1.8p+1");
     EXPECT_EQ(format(L"%.0f", 1e300).GetLength(), 301);
     EXPECT_EQ(format(L"%.400f", 1.0).GetLength(), 402);
 }
