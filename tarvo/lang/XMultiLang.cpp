@@ -249,7 +249,7 @@ CString XMultiLang::FindCatalogueText(const CStringArray& names, const CString& 
 {
     for (INT_PTR i = 0; i < names.GetSize(); ++i)
     {
-        const CString text = qlx::lib::MMSGFunction::GetValue(L"IDS_" + m_strDialog + L"_" + names[i]);
+        CString text = qlx::lib::MMSGFunction::GetValue(L"IDS_" + m_strDialog + L"_" + names[i]);
         if (text.Find(kNotRegistered) < 0)
             return text;
     }
