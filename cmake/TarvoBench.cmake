@@ -4,12 +4,7 @@
 # without it, by the library's name) and linked natively only. Its targets stand in bench/targets/NAME.json.
 function(tarvo_bench name)
   cmake_parse_arguments(arg "" "" "LIBS;PEERS;PEER_LIBS;PORTABLE;WINDOWS;POSIX" ${ARGN})
-  set(sources ${arg_PORTABLE})
-  if(WIN32)
-    list(APPEND sources ${arg_WINDOWS})
-  else()
-    list(APPEND sources ${arg_POSIX})
-  endif()
+  tarvo_sources_here(sources PORTABLE ${arg_PORTABLE} WINDOWS ${arg_WINDOWS} POSIX ${arg_POSIX})
   if(NOT sources)
     return()
   endif()
