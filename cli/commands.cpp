@@ -47,6 +47,7 @@ std::span<const Group> groups()
     static const Group all[] = {
         {"ini", "INI documents: language files and other sections of keys and values", ini_commands()},
         {"header", "Resource headers: the names that a module gives its identifiers", header_commands()},
+        {"messages", "Message files: the texts that a host finds by key", messages_commands()},
         {"rc", "Resource scripts: what they hold and what a translation lost", rc_commands()},
     };
     return all;

@@ -8,4 +8,5 @@ namespace cli
 std::span<const Command> ini_commands();
 std::span<const Command> header_commands();
 std::span<const Command> rc_commands();
+std::span<const Command> messages_commands();
 } // namespace cli

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tarvo/export.h"
+
 /// What goes with a language number of the product: 0 English, 1 Korean, 2 Japanese, 3 Chinese, 4 Russian,
 /// 5 Global. Any other number has what English has.
 namespace languages
@@ -14,5 +16,6 @@ struct Row
     int codePage;          ///< of its 8-bit files when the host asks for it; 0 is the system's ANSI page
 };
 
-const Row& of(int language);
+inline constexpr int count = 6; ///< numbers from 0 on
+TARVO_API const Row& of(int language);
 } // namespace languages

@@ -2,7 +2,7 @@
 
 #include "tarvo/msg/MessageEntries.h"
 
-void msg_parser::add_entries(const std::string& bytes)
+std::size_t msg_parser::add_entries(const std::string& bytes)
 {
     CByteLines stream(bytes, m_nCodePage);
     const auto next = [&stream](units::view& line, textline::LineMarks& marks) {
@@ -10,7 +10,7 @@ void msg_parser::add_entries(const std::string& bytes)
         marks = more ? textline::MarkLine(line) : textline::LineMarks();
         return more;
     };
-    msgtext::AddEntries(next, m_store);
+    return msgtext::AddEntries(next, m_store);
 }
 
 void msg_parser::read_font(const std::string& bytes)

@@ -12,6 +12,6 @@ protected:
     /// The next line of \p stream as wide text, valid until the next call; false at the end.
     static bool getline(CByteLines& stream, units::view& line);
 
-    void add_entries(const std::string& bytes) override;
+    std::size_t add_entries(const std::string& bytes) override;
     void read_font(const std::string& bytes) override;
 };

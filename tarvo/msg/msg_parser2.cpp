@@ -9,11 +9,11 @@ bool msg_parser2::set_value(const wchar_t* key, const wchar_t* value)
     return true;
 }
 
-void msg_parser2::add_entries(const std::string& bytes)
+std::size_t msg_parser2::add_entries(const std::string& bytes)
 {
     CStdioLines lines(bytes, m_nCodePage);
     const auto next = [&](units::view& line, textline::LineMarks& marks) { return lines.Next(line, marks); };
-    msgtext::AddEntries(next, m_store);
+    return msgtext::AddEntries(next, m_store);
 }
 
 void msg_parser2::read_font(const std::string& bytes)

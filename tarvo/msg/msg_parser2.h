@@ -11,6 +11,6 @@ protected:
     /// Gives \p key the text \p value, whether it is there or not. True.
     bool set_value(const wchar_t* key, const wchar_t* value);
 
-    void add_entries(const std::string& bytes) override;
+    std::size_t add_entries(const std::string& bytes) override;
     void read_font(const std::string& bytes) override;
 };

@@ -3,14 +3,13 @@
 #include "platform/file.h"
 #include "tarvo/msg/Languages.h"
 #include "tarvo/msg/MSGInfo.h"
+#include "tarvo/msg/MsgOut.h"
 #include "tarvo/settings/HostApp.h"
 
 #include <optional>
 
 namespace
 {
-constexpr std::uint64_t kMostBytes = std::uint64_t{1} << 30;
-
 /// The page of the language's 8-bit files, when the host's profile asks for it.
 int ChooseCodePage()
 {
@@ -20,9 +19,13 @@ int ChooseCodePage()
     return pInfo ? languages::of(pInfo->GetCurrentLang()).codePage : 0;
 }
 
+/// Nothing when it cannot be read, which only the debug output is told. Others may write the file meanwhile.
 std::optional<std::string> ReadFile(const CString& path)
 {
-    return platform::file::read_whole(path, kMostBytes);
+    auto bytes = platform::file::read_whole(path, msg_most_bytes);
+    if (!bytes)
+        nsMsgOutFormatD(L"file open error : %s", path.GetString());
+    return bytes;
 }
 } // namespace
 

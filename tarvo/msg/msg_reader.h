@@ -5,9 +5,13 @@
 
 #include <afxstr.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
+
+/// Files larger than this count as unreadable.
+inline constexpr std::uint64_t msg_most_bytes = std::uint64_t{1} << 30;
 
 /// What the two message-file readers have in common: the texts, the lists of files, the font. An object is
 /// filled and asked by CMSGFunction or by a class derived from it; copies are independent of each other.
@@ -44,8 +48,9 @@ protected:
     /// read.
     bool read_messages(const CString& path);
 
-    /// The bytes of a file, taken apart into lines as this reader does it.
-    virtual void add_entries(const std::string& bytes) = 0;
+    /// Adds the entries of a message file's bytes, taken apart into lines as this reader does it. Gives how
+    /// many there are, those included whose key was there already.
+    virtual std::size_t add_entries(const std::string& bytes) = 0;
     virtual void read_font(const std::string& bytes) = 0;
 
     CMessageStore m_store;
