@@ -34,7 +34,13 @@ constexpr Option compare_options[] = {
     {"language1", '\0', Value::text, "LANG_X",
      "reads of FILE1 only what follows a LANGUAGE statement with this word, in any letter case"},
     language2_option,
-    check_option};
+    check_option,
+    {"jobs", 'j', Value::text, "N", "compares N scripts of two folders at the same time; 1 is the default"},
+    {"format", '\0', Value::choice, "text|json|sarif|junit|html",
+     "text (the default) and json hold the report, sarif and junit each finding with its file, line and rule "
+     "for "
+     "build servers, html is one page that shows both scripts with the findings beside them"},
+};
 constexpr Option check_options[] = {check_option};
 constexpr Option pairs_options[] = {
     {"quoted", '\0', Value::none, "", "writes \"text 1\"=\"text 2\" instead of columns"},
@@ -126,9 +132,15 @@ constexpr Command commands[] = {
      "Holds a translation against its original: missing resources, controls and strings, other types and "
      "styles, "
      "another order, and texts whose placeholders or escapes no longer agree. Exit status 1 when there is a "
-     "difference.",
+     "difference.\n"
+     "Of two folders every script (.rc) below the first is compared with the one of the same relative path "
+     "below the "
+     "second; one that is missing there is a difference. The order of the output does not depend on --jobs.",
      "the report: a heading for each kind, below it a line for each resource and each difference.",
-     "{\"report\":REPORT,\"log\":LOG}, the log of both scripts.", compare_examples, compare_scripts},
+     "{\"report\":REPORT,\"log\":LOG}, the log of both scripts. For folders {\"files\":[{\"file\":PATH, "
+     "\"report\":REPORT, \"log\":LOG, \"findings\":[{\"rule\":R, \"resource\":N, \"item\":I, \"line1\":L, "
+     "\"line2\":L, \"text\":T}]}], \"missing\":[PATH]}.",
+     compare_examples, compare_scripts},
     {"check", "compares the placeholders and escapes of two texts", two_texts, check_options,
      "Says what a translator has broken between two texts; exit status 1. When they agree there is no "
      "output.",

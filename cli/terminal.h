@@ -15,6 +15,9 @@ std::optional<std::vector<std::string>> arguments(int argc, char** argv);
 /// Makes the streams carry bytes as they are and a console show UTF-8.
 void prepare_streams();
 
+/// True when somebody sees what is written to \p stream as it is written.
+bool interactive(std::FILE* stream);
+
 /// True when \p stream shows colours.
 bool colors(std::FILE* stream);
 

@@ -23,10 +23,12 @@ std::optional<std::vector<std::string>> arguments(int argc, char** argv)
 
 void prepare_streams() {}
 
+bool interactive(std::FILE* stream) { return ::isatty(::fileno(stream)) != 0; }
+
 bool colors(std::FILE* stream)
 {
     const char* const kind = std::getenv("TERM");
-    return ::isatty(::fileno(stream)) != 0 && kind != nullptr && std::string_view(kind) != "dumb";
+    return interactive(stream) && kind != nullptr && std::string_view(kind) != "dumb";
 }
 
 bool no_color()

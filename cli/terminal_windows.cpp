@@ -69,6 +69,12 @@ void prepare_streams()
         ::_setmode(::_fileno(stream), _O_BINARY);
 }
 
+bool interactive(std::FILE* stream)
+{
+    DWORD mode = 0;
+    return ::GetConsoleMode(handle_of(stream), &mode) != 0;
+}
+
 bool colors(std::FILE* stream)
 {
     DWORD mode = 0;
