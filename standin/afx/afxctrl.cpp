@@ -1,4 +1,5 @@
 #include "afxctrl.h"
+#include "afxlistbox.h"
 
 #include <cstring>
 
@@ -88,6 +89,13 @@ void CListBox::GetText(int nIndex, CString& rString) const
 void CComboBox::GetLBText(int nIndex, CString& rString) const
 {
     TakeLine(rString, *this, CB_GETLBTEXTLEN, CB_GETLBTEXT, nIndex);
+}
+
+UINT CListBox::ItemFromPoint(CPoint pt, BOOL& bOutside) const
+{
+    const auto dwItem = static_cast<DWORD>(SendMessage(LB_ITEMFROMPOINT, 0, MAKELPARAM(pt.x, pt.y)));
+    bOutside = HIWORD(dwItem) != 0;
+    return LOWORD(dwItem);
 }
 
 BOOL CComboBox::GetComboBoxInfo(PCOMBOBOXINFO pcbi) const

@@ -29,6 +29,16 @@ public:
             SendMessage(STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(hBitmap)));
     }
     HBITMAP GetBitmap() const { return reinterpret_cast<HBITMAP>(SendMessage(STM_GETIMAGE, IMAGE_BITMAP)); }
+    HENHMETAFILE SetEnhMetaFile(HENHMETAFILE hMetaFile)
+    {
+        return reinterpret_cast<HENHMETAFILE>(
+            SendMessage(STM_SETIMAGE, IMAGE_ENHMETAFILE, reinterpret_cast<LPARAM>(hMetaFile)));
+    }
+    HCURSOR SetCursor(HCURSOR hCursor)
+    {
+        return reinterpret_cast<HCURSOR>(
+            SendMessage(STM_SETIMAGE, IMAGE_CURSOR, reinterpret_cast<LPARAM>(hCursor)));
+    }
     virtual void DrawItem(LPDRAWITEMSTRUCT) {}
 
 protected:
@@ -54,6 +64,9 @@ public:
     {
         return reinterpret_cast<HICON>(SendMessage(BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(hIcon)));
     }
+    HICON GetIcon() const { return reinterpret_cast<HICON>(SendMessage(BM_GETIMAGE, IMAGE_ICON)); }
+    HBITMAP GetBitmap() const { return reinterpret_cast<HBITMAP>(SendMessage(BM_GETIMAGE, IMAGE_BITMAP)); }
+    void Click() { SendMessage(BM_CLICK); }
     HBITMAP SetBitmap(HBITMAP hBitmap)
     {
         return reinterpret_cast<HBITMAP>(
@@ -102,6 +115,25 @@ public:
     {
         return static_cast<BOOL>(SendMessage(EM_SETREADONLY, static_cast<WPARAM>(bReadOnly)));
     }
+    TCHAR GetPasswordChar() const { return static_cast<TCHAR>(SendMessage(EM_GETPASSWORDCHAR)); }
+    DWORD GetMargins() const { return static_cast<DWORD>(SendMessage(EM_GETMARGINS)); }
+    /// The rectangle that the text is laid out in; of several lines.
+    void GetRect(LPRECT lpRect) const { SendMessage(EM_GETRECT, 0, reinterpret_cast<LPARAM>(lpRect)); }
+    void SetRect(LPCRECT lpRect) { SendMessage(EM_SETRECT, 0, reinterpret_cast<LPARAM>(lpRect)); }
+    /// Where a character is drawn, and the other way round: the character in the low word, its line in the
+    /// high one.
+    CPoint PosFromChar(UINT nChar) const
+    {
+        return CPoint(static_cast<LPARAM>(SendMessage(EM_POSFROMCHAR, nChar)));
+    }
+    int CharFromPos(CPoint pt) const
+    {
+        return static_cast<int>(SendMessage(EM_CHARFROMPOS, 0, MAKELPARAM(pt.x, pt.y)));
+    }
+    BOOL FmtLines(BOOL bAddEOL)
+    {
+        return static_cast<BOOL>(SendMessage(EM_FMTLINES, static_cast<WPARAM>(bAddEOL)));
+    }
     void SetPasswordChar(TCHAR ch) { SendMessage(EM_SETPASSWORDCHAR, ch); }
     void SetMargins(UINT nLeft, UINT nRight)
     {
@@ -134,174 +166,6 @@ public:
     void Copy() { SendMessage(WM_COPY); }
     void Cut() { SendMessage(WM_CUT); }
     void Paste() { SendMessage(WM_PASTE); }
-};
-
-class AFX_API CListBox : public CWnd
-{
-    DECLARE_DYNAMIC(CListBox)
-
-public:
-    BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-    {
-        return CWnd::Create(L"ListBox", nullptr, dwStyle, rect, pParentWnd, nID);
-    }
-    int GetCount() const { return Int(LB_GETCOUNT); }
-    int GetCurSel() const { return Int(LB_GETCURSEL); }
-    int SetCurSel(int nSelect) { return Int(LB_SETCURSEL, nSelect); }
-    int GetSel(int nIndex) const { return Int(LB_GETSEL, nIndex); }
-    int SetSel(int nIndex, BOOL bSelect = TRUE) { return Int(LB_SETSEL, bSelect, nIndex); }
-    int GetSelCount() const { return Int(LB_GETSELCOUNT); }
-    int GetSelItems(int nMaxItems, LPINT rgIndex) const
-    {
-        return Int(LB_GETSELITEMS, nMaxItems, reinterpret_cast<LPARAM>(rgIndex));
-    }
-    int GetTopIndex() const { return Int(LB_GETTOPINDEX); }
-    int SetTopIndex(int nIndex) { return Int(LB_SETTOPINDEX, nIndex); }
-    DWORD_PTR GetItemData(int nIndex) const
-    {
-        return static_cast<DWORD_PTR>(SendMessage(LB_GETITEMDATA, static_cast<WPARAM>(nIndex)));
-    }
-    int SetItemData(int nIndex, DWORD_PTR dwItemData)
-    {
-        return Int(LB_SETITEMDATA, nIndex, static_cast<LPARAM>(dwItemData));
-    }
-    int GetText(int nIndex, LPTSTR lpszBuffer) const
-    {
-        return Int(LB_GETTEXT, nIndex, reinterpret_cast<LPARAM>(lpszBuffer));
-    }
-    /// Empty when there is no such line.
-    void GetText(int nIndex, CString& rString) const;
-    int GetTextLen(int nIndex) const { return Int(LB_GETTEXTLEN, nIndex); }
-    int AddString(LPCTSTR lpszItem) { return Int(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(lpszItem)); }
-    int InsertString(int nIndex, LPCTSTR lpszItem)
-    {
-        return Int(LB_INSERTSTRING, nIndex, reinterpret_cast<LPARAM>(lpszItem));
-    }
-    int DeleteString(UINT nIndex) { return Int(LB_DELETESTRING, static_cast<int>(nIndex)); }
-    void ResetContent() { SendMessage(LB_RESETCONTENT); }
-    int FindString(int nStartAfter, LPCTSTR lpszItem) const
-    {
-        return Int(LB_FINDSTRING, nStartAfter, reinterpret_cast<LPARAM>(lpszItem));
-    }
-    int FindStringExact(int nIndexStart, LPCTSTR lpszFind) const
-    {
-        return Int(LB_FINDSTRINGEXACT, nIndexStart, reinterpret_cast<LPARAM>(lpszFind));
-    }
-    int SelectString(int nStartAfter, LPCTSTR lpszItem)
-    {
-        return Int(LB_SELECTSTRING, nStartAfter, reinterpret_cast<LPARAM>(lpszItem));
-    }
-    int GetItemRect(int nIndex, LPRECT lpRect) const
-    {
-        return Int(LB_GETITEMRECT, nIndex, reinterpret_cast<LPARAM>(lpRect));
-    }
-    int GetItemHeight(int nIndex) const { return Int(LB_GETITEMHEIGHT, nIndex); }
-    int SetItemHeight(int nIndex, UINT cyItemHeight)
-    {
-        return Int(LB_SETITEMHEIGHT, nIndex, MAKELONG(cyItemHeight, 0));
-    }
-    void SetHorizontalExtent(int cxExtent)
-    {
-        SendMessage(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(cxExtent));
-    }
-
-    virtual void DrawItem(LPDRAWITEMSTRUCT) {}
-    virtual void MeasureItem(LPMEASUREITEMSTRUCT) {}
-    virtual int CompareItem(LPCOMPAREITEMSTRUCT) { return 0; }
-    virtual void DeleteItem(LPDELETEITEMSTRUCT) {}
-
-protected:
-    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult) override;
-
-private:
-    int Int(UINT message, int wParam = 0, LPARAM lParam = 0) const
-    {
-        return static_cast<int>(SendMessage(message, static_cast<WPARAM>(wParam), lParam));
-    }
-};
-
-class AFX_API CComboBox : public CWnd
-{
-    DECLARE_DYNAMIC(CComboBox)
-
-public:
-    BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-    {
-        return CWnd::Create(L"ComboBox", nullptr, dwStyle, rect, pParentWnd, nID);
-    }
-    int GetCount() const { return Int(CB_GETCOUNT); }
-    int GetCurSel() const { return Int(CB_GETCURSEL); }
-    int SetCurSel(int nSelect) { return Int(CB_SETCURSEL, nSelect); }
-    DWORD GetEditSel() const { return static_cast<DWORD>(SendMessage(CB_GETEDITSEL)); }
-    BOOL SetEditSel(int nStartChar, int nEndChar)
-    {
-        return Int(CB_SETEDITSEL, 0, MAKELONG(nStartChar, nEndChar));
-    }
-    BOOL LimitText(int nMaxChars) { return Int(CB_LIMITTEXT, nMaxChars); }
-    DWORD_PTR GetItemData(int nIndex) const
-    {
-        return static_cast<DWORD_PTR>(SendMessage(CB_GETITEMDATA, static_cast<WPARAM>(nIndex)));
-    }
-    int SetItemData(int nIndex, DWORD_PTR dwItemData)
-    {
-        return Int(CB_SETITEMDATA, nIndex, static_cast<LPARAM>(dwItemData));
-    }
-    int GetLBText(int nIndex, LPTSTR lpszText) const
-    {
-        return Int(CB_GETLBTEXT, nIndex, reinterpret_cast<LPARAM>(lpszText));
-    }
-    /// Empty when there is no such line.
-    void GetLBText(int nIndex, CString& rString) const;
-    int GetLBTextLen(int nIndex) const { return Int(CB_GETLBTEXTLEN, nIndex); }
-    int AddString(LPCTSTR lpszString) { return Int(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(lpszString)); }
-    int InsertString(int nIndex, LPCTSTR lpszString)
-    {
-        return Int(CB_INSERTSTRING, nIndex, reinterpret_cast<LPARAM>(lpszString));
-    }
-    int DeleteString(UINT nIndex) { return Int(CB_DELETESTRING, static_cast<int>(nIndex)); }
-    void ResetContent() { SendMessage(CB_RESETCONTENT); }
-    int FindString(int nStartAfter, LPCTSTR lpszString) const
-    {
-        return Int(CB_FINDSTRING, nStartAfter, reinterpret_cast<LPARAM>(lpszString));
-    }
-    int FindStringExact(int nIndexStart, LPCTSTR lpszFind) const
-    {
-        return Int(CB_FINDSTRINGEXACT, nIndexStart, reinterpret_cast<LPARAM>(lpszFind));
-    }
-    int SelectString(int nStartAfter, LPCTSTR lpszString)
-    {
-        return Int(CB_SELECTSTRING, nStartAfter, reinterpret_cast<LPARAM>(lpszString));
-    }
-    void ShowDropDown(BOOL bShowIt = TRUE) { SendMessage(CB_SHOWDROPDOWN, static_cast<WPARAM>(bShowIt)); }
-    BOOL GetDroppedState() const { return Int(CB_GETDROPPEDSTATE); }
-    void GetDroppedControlRect(LPRECT lprect) const
-    {
-        SendMessage(CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(lprect));
-    }
-    int GetDroppedWidth() const { return Int(CB_GETDROPPEDWIDTH); }
-    int SetDroppedWidth(UINT nWidth) { return Int(CB_SETDROPPEDWIDTH, static_cast<int>(nWidth)); }
-    int GetItemHeight(int nIndex) const { return Int(CB_GETITEMHEIGHT, nIndex); }
-    int SetItemHeight(int nIndex, UINT cyItemHeight)
-    {
-        return Int(CB_SETITEMHEIGHT, nIndex, MAKELONG(cyItemHeight, 0));
-    }
-    int GetTopIndex() const { return Int(CB_GETTOPINDEX); }
-    int SetTopIndex(int nIndex) { return Int(CB_SETTOPINDEX, nIndex); }
-    BOOL GetComboBoxInfo(PCOMBOBOXINFO pcbi) const;
-
-    virtual void DrawItem(LPDRAWITEMSTRUCT) {}
-    virtual void MeasureItem(LPMEASUREITEMSTRUCT) {}
-    virtual int CompareItem(LPCOMPAREITEMSTRUCT) { return 0; }
-    virtual void DeleteItem(LPDELETEITEMSTRUCT) {}
-
-protected:
-    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult) override;
-
-private:
-    int Int(UINT message, int wParam = 0, LPARAM lParam = 0) const
-    {
-        return static_cast<int>(SendMessage(message, static_cast<WPARAM>(wParam), lParam));
-    }
 };
 
 class AFX_API CScrollBar : public CWnd

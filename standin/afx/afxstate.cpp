@@ -58,6 +58,7 @@ BOOL AfxUnlockTempMaps(BOOL bDeleteTemps)
         state.menus.DeleteTemporary();
         state.contexts.DeleteTemporary();
         state.objects.DeleteTemporary();
+        state.imageLists.DeleteTemporary();
     }
     return FALSE;
 }

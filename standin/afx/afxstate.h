@@ -5,13 +5,12 @@
 
 #include "afxapp.h"
 #include "afxdc.h"
+#include "afximagelist.h"
 #include "afxmenu.h"
 #include "afxwnd.h"
 
 #include <memory>
 #include <unordered_map>
-
-class CImageList;
 
 /// Which object stands for a handle: a permanent one, attached by somebody, or one made on the way by
 /// FromHandle, which lives until the next idle time. The second never owns its handle.
@@ -83,6 +82,7 @@ struct AFX_THREAD_STATE
     AfxHandleMap<CMenu, HMENU, &CMenu::m_hMenu> menus;
     AfxHandleMap<CDC, HDC, &CDC::m_hDC> contexts;
     AfxHandleMap<CGdiObject, HGDIOBJ, &CGdiObject::m_hObject> objects;
+    AfxHandleMap<CImageList, HIMAGELIST, &CImageList::m_hImageList> imageLists;
 
     AFX_MODULE_STATE* pModuleState = nullptr; ///< null: the program's
     CWinThread* pThread = nullptr;
