@@ -106,6 +106,9 @@ TEST_F(BcgpSheet, PagesStandBelowTheHeaderAndTheSheetIsTallerByIt)
     }
     EXPECT_EQ(sheet.m_activated, (std::vector<CPropertyPage*>{&sheet.m_first, &sheet.m_second, &sheet.m_first,
                                                               &sheet.m_second}));
+    sheet.m_second.ShowWindow(SW_HIDE);
+    sheet.m_second.ShowWindow(SW_SHOW); // nor when nobody put it back before
+    EXPECT_EQ(sheet.m_second.Place().top, without.top + 40);
     sheet.DestroyWindow();
 }
 
