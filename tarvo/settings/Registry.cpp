@@ -24,7 +24,7 @@ using CKey = std::unique_ptr<std::remove_pointer_t<HKEY>, KeyCloser>;
 std::wstring NextComponent(std::wstring_view path, std::size_t& pos)
 {
     const std::size_t end = path.find(L'\\', pos);
-    const std::wstring part(path.substr(pos, end - pos));
+    std::wstring part(path.substr(pos, end - pos));
     pos = end + 1;
     return part;
 }
