@@ -53,6 +53,8 @@ BOOL CStdioFileEx::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* p
     return TRUE;
 }
 
+// NOLINTBEGIN(bugprone-parent-virtual-call): past the base is where the bytes are as the file has them
+
 // ---- what was read ahead, past the base, which would take UTF-16 for bytes of text
 
 // False when there is nothing more to read.
@@ -273,3 +275,5 @@ void CStdioFileEx::SetLength(ULONGLONG dwNewLen)
     GiveBack();
     CStdioFile::SetLength(dwNewLen);
 }
+
+// NOLINTEND(bugprone-parent-virtual-call)
