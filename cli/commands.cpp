@@ -48,6 +48,7 @@ std::span<const Group> groups()
         {"ini", "INI documents: language files and other sections of keys and values", ini_commands()},
         {"header", "Resource headers: the names that a module gives its identifiers", header_commands()},
         {"messages", "Message files: the texts that a host finds by key", messages_commands()},
+        {"text", "Text files of any encoding: what the library reads in them", text_commands()},
         {"rc", "Resource scripts: what they hold and what a translation lost", rc_commands()},
     };
     return all;

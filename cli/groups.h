@@ -9,4 +9,5 @@ std::span<const Command> ini_commands();
 std::span<const Command> header_commands();
 std::span<const Command> rc_commands();
 std::span<const Command> messages_commands();
+std::span<const Command> text_commands();
 } // namespace cli

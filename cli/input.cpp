@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <limits>
 
 namespace cli
 {
@@ -50,6 +51,13 @@ std::string why_unreadable(const fs::path& path, std::uint64_t most)
 void unreadable(const std::string& name, std::uint64_t most)
 {
     throw Failure{Status::unreadable, name, why_unreadable(std::u8string(name.begin(), name.end()), most)};
+}
+
+void require_regular(const std::string& name)
+{
+    std::error_code error;
+    if (name != "-" && !fs::is_regular_file(fs::path(std::u8string(name.begin(), name.end())), error))
+        unreadable(name, std::numeric_limits<std::uint64_t>::max());
 }
 
 std::string read_input(const std::string& name, std::uint64_t most)

@@ -28,7 +28,7 @@ TEST_F(CompletionTest, OffersGroupsThenCommandsThenOperands)
 {
     write("a.ini", "");
     write("b c.ini", "");
-    EXPECT_EQ(offers("''"), "ini\nheader\nmessages\nrc\n");
+    EXPECT_EQ(offers("''"), "ini\nheader\nmessages\ntext\nrc\n");
     EXPECT_EQ(offers("he"), "header\n");
     EXPECT_EQ(offers("ini ''"), "show\nget\nset\nconvert\n");
     EXPECT_EQ(offers("--quiet ini s"), "show\nset\n");

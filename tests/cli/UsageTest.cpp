@@ -34,8 +34,9 @@ TEST_F(UsageTest, EachWrongUseIsOneLineAndStatusTwo)
         {{"--quiet"}, "tarvo: usage: tarvo GROUP COMMAND [OPTIONS] FILE...; see tarvo --help\n"},
         {{"ini"}, "tarvo: ini: a command is missing (show, get, set, convert); see tarvo ini --help\n"},
         {{"header"}, "tarvo: header: a command is missing (show); see tarvo header --help\n"},
-        {{"inni", "show"}, "tarvo: inni: no such group (ini, header, messages, rc); did you mean 'ini'?\n"},
-        {{"zebra"}, "tarvo: zebra: no such group (ini, header, messages, rc)\n"},
+        {{"inni", "show"},
+         "tarvo: inni: no such group (ini, header, messages, text, rc); did you mean 'ini'?\n"},
+        {{"zebra"}, "tarvo: zebra: no such group (ini, header, messages, text, rc)\n"},
         {{"convert", "a.ini"}, "tarvo: convert: a group comes first: tarvo ini convert\n"},
         {{"ini", "covnert", "a.ini"},
          "tarvo: ini covnert: no such command (show, get, set, convert); did you mean 'convert'?\n"},
@@ -179,8 +180,9 @@ TEST_F(UsageTest, ColorsFollowTheOptionThenTheEnvironment)
     EXPECT_EQ(tarvo({"ini", "show", "a.ini", "--color=always"}), colored);
     EXPECT_EQ(tarvo({"ini", "show", "none", "--color", "always"}),
               (Outcome{3, "", "\x1b[1;31mtarvo:\x1b[0m none: no such file\n"}));
-    EXPECT_EQ(tarvo({"--color", "always", "zebra"}),
-              (Outcome{2, "", "\x1b[1;31mtarvo:\x1b[0m zebra: no such group (ini, header, messages, rc)\n"}));
+    EXPECT_EQ(
+        tarvo({"--color", "always", "zebra"}),
+        (Outcome{2, "", "\x1b[1;31mtarvo:\x1b[0m zebra: no such group (ini, header, messages, text, rc)\n"}));
     m_environment["NO_COLOR"] = "1";
     EXPECT_EQ(tarvo({"ini", "show", "a.ini"}), plain);
     EXPECT_EQ(tarvo({"ini", "show", "a.ini", "--color", "always"}), colored);
