@@ -17,8 +17,8 @@ struct Dialog
 {
     Dialog()
     {
-        window = ::CreateWindowExW(0, L"STATIC", L"Setup", WS_POPUP | WS_VISIBLE, 0, 0, 800, 600, nullptr, nullptr,
-                                   nullptr, nullptr);
+        window = ::CreateWindowExW(0, L"STATIC", L"Setup", WS_POPUP | WS_VISIBLE, 0, 0, 800, 600, nullptr,
+                                   nullptr, nullptr, nullptr);
         std::wstring header = L"#define IDD_SETUP 120\n";
         std::wstring ini = L"[IDD_SETUP]\nIDD_SETUP=Einstellungen\n";
         for (int id = 1000; id < 1000 + kControls; ++id)
@@ -26,9 +26,9 @@ struct Dialog
             const std::wstring number = std::to_wstring(id);
             header += L"#define IDC_CONTROL_" + number + L" " + number + L"\n";
             ini += L"IDC_CONTROL_" + number + L"=" + text(id) + L"\n";
-            labels.push_back(::CreateWindowExW(0, L"STATIC", L"text", WS_CHILD | WS_VISIBLE, 0, 0, 100, 20, window,
-                                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr,
-                                               nullptr));
+            labels.push_back(::CreateWindowExW(0, L"STATIC", L"text", WS_CHILD | WS_VISIBLE, 0, 0, 100, 20,
+                                               window, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                                               nullptr, nullptr));
         }
         table.LoadResourceHeader(reinterpret_cast<unsigned char*>(header.data()),
                                  static_cast<int>(header.size()));
