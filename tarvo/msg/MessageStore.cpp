@@ -11,18 +11,27 @@ constexpr std::size_t kFewSlots = 16;
 constexpr std::size_t kTidyLeast = std::size_t{64} << 10; ///< bytes; less is not worth moving for
 } // namespace
 
+template <class Visit>
+void CMessageStore::ForEach(Visit visit) const
+{
+    for (std::size_t block = 0; block < m_arrBlock.size(); ++block)
+        for (std::size_t at = 0; at < m_arrBlock[block].used;)
+        {
+            const Record& record = *reinterpret_cast<const Record*>(m_arrBlock[block].bytes.get() + at);
+            if (!(record.keyLength & kReplaced))
+                visit(record, static_cast<Ref>(block << 16 | at / kGrain));
+            at += BytesOf(record);
+        }
+}
+
 CMessageStore& CMessageStore::operator=(const CMessageStore& source)
 {
-    if (this == &source)
-        return *this;
     CMessageStore copy;
-    copy.m_arrSlot.resize(source.m_arrSlot.size());
-    for (std::size_t i = 0; i < source.m_arrSlot.size(); ++i)
-        if (const Slot slot = source.m_arrSlot[i])
-        {
-            const Record& record = source.At(slot);
-            copy.Place(i, static_cast<std::uint32_t>(slot >> 32), record.Key(), record.Value());
-        }
+    source.ForEach(
+        [&copy](const Record& record, Ref) { copy.Append(record.hash, record.Key(), record.Value()); });
+    copy.m_nCount = source.m_nCount;
+    if (copy.m_nCount != 0)
+        copy.Index(SlotsFor(copy.m_nCount + 1));
     Swap(copy);
     return *this;
 }
@@ -31,6 +40,7 @@ void CMessageStore::Swap(CMessageStore& other) noexcept
 {
     std::swap(m_arrSlot, other.m_arrSlot);
     std::swap(m_arrBlock, other.m_arrBlock);
+    std::swap(m_nRefBits, other.m_nRefBits);
     std::swap(m_nBlock, other.m_nBlock);
     std::swap(m_nCount, other.m_nCount);
     std::swap(m_nUsed, other.m_nUsed);
@@ -50,16 +60,22 @@ std::size_t CMessageStore::BytesOf(std::size_t units)
     return (sizeof(Record) + units * sizeof(char16_t) + kGrain - 1) / kGrain * kGrain;
 }
 
+std::size_t CMessageStore::BytesOf(const Record& record)
+{
+    return BytesOf(std::size_t{record.keyLength & ~kReplaced} + record.valueLength);
+}
+
 std::size_t CMessageStore::SlotOf(units::view key, std::uint32_t hash) const
 {
-    const std::size_t mask = m_arrSlot.size() - 1;
-    for (std::size_t i = hash & mask;; i = (i + 1) & mask)
+    const std::uint32_t mask = TagMask(), tag = TagOf(hash);
+    for (std::size_t i = HomeOf(hash);; i = Next(i))
     {
         const Slot slot = m_arrSlot[i];
         if (slot == 0)
             return i;
-        if (slot >> 32 != hash)
+        if ((slot & mask) != tag)
             continue;
+        // The rest of a record comes from memory together with its front.
         const Record& record = At(slot);
         __builtin_prefetch(record.Units() + 32);
         __builtin_prefetch(record.Units() + 64);
@@ -72,7 +88,7 @@ std::uint32_t CMessageStore::Announce(units::view key) const
 {
     const std::uint32_t hash = units::hash(key);
     if (!m_arrSlot.empty())
-        __builtin_prefetch(&m_arrSlot[hash & (m_arrSlot.size() - 1)], 1);
+        __builtin_prefetch(&m_arrSlot[HomeOf(hash)], 1);
     return hash;
 }
 
@@ -94,15 +110,13 @@ void CMessageStore::Set(units::view key, units::view value)
     if (m_arrSlot[slot] == 0)
         return Place(slot, hash, key, value);
     Record& old = At(m_arrSlot[slot]);
-    if (value.size() <= old.valueLength)
+    if (value.size() == old.valueLength)
     {
-        // Written over: a text that changes often takes no more memory.
-        m_nDead += (old.valueLength - value.size()) * sizeof(char16_t);
         std::copy(value.begin(), value.end(), old.Units() + old.keyLength);
-        old.valueLength = static_cast<std::uint32_t>(value.size());
         return;
     }
-    m_nDead += BytesOf(old.keyLength + old.valueLength);
+    m_nDead += BytesOf(old);
+    old.keyLength |= kReplaced;
     m_arrSlot[slot] = 0;
     --m_nCount;
     Place(slot, hash, key, value);
@@ -123,9 +137,7 @@ std::vector<CMessageStore::Message> CMessageStore::Sorted() const
 {
     std::vector<Message> messages;
     messages.reserve(m_nCount);
-    for (const Slot slot : m_arrSlot)
-        if (slot != 0)
-            messages.push_back({At(slot).Key(), At(slot).Value()});
+    ForEach([&messages](const Record& record, Ref) { messages.push_back({record.Key(), record.Value()}); });
     std::sort(messages.begin(), messages.end(),
               [](const Message& a, const Message& b) { return units::compare(a.key, b.key) < 0; });
     return messages;
@@ -133,16 +145,19 @@ std::vector<CMessageStore::Message> CMessageStore::Sorted() const
 
 void CMessageStore::Place(std::size_t slot, std::uint32_t hash, units::view key, units::view value)
 {
-    m_arrSlot[slot] = Slot{hash} << 32 | (Append(key, value) + 1);
+    const std::uint64_t ref = Append(hash, key, value) + std::uint64_t{1};
     ++m_nCount;
+    if (ref >> m_nRefBits)
+        return Index(m_arrSlot.size());
+    m_arrSlot[slot] = TagOf(hash) | static_cast<Slot>(ref);
 }
 
-CMessageStore::Ref CMessageStore::Append(units::view key, units::view value)
+CMessageStore::Ref CMessageStore::Append(std::uint32_t hash, units::view key, units::view value)
 {
     const std::size_t bytes = BytesOf(key.size() + value.size());
     Ref ref = 0;
     auto* const record = new (Take(bytes, ref))
-        Record{static_cast<std::uint32_t>(key.size()), static_cast<std::uint32_t>(value.size())};
+        Record{hash, static_cast<std::uint32_t>(key.size()), static_cast<std::uint32_t>(value.size())};
     std::copy(value.begin(), value.end(), std::copy(key.begin(), key.end(), record->Units()));
     m_nUsed += bytes;
     return ref;
@@ -176,24 +191,20 @@ void CMessageStore::AddBlock(std::size_t least)
 
 void CMessageStore::MakeRoom()
 {
-    if (m_nCount + 1 > m_arrSlot.size() / 4 * 3)
+    if (SlotsFor(m_nCount + 1) > m_arrSlot.size())
         Index(std::max(kFewSlots, 2 * m_arrSlot.size()));
 }
 
 void CMessageStore::Index(std::size_t slots)
 {
-    std::vector<Slot> old(slots);
-    old.swap(m_arrSlot);
-    const std::size_t mask = slots - 1;
-    for (const Slot slot : old)
-    {
-        if (slot == 0)
-            continue;
-        std::size_t i = (slot >> 32) & mask;
+    std::vector<Slot>(slots).swap(m_arrSlot);
+    m_nRefBits = std::min(32u, 16u + static_cast<unsigned>(std::bit_width(2 * m_arrBlock.size())));
+    ForEach([this](const Record& record, Ref ref) {
+        std::size_t i = HomeOf(record.hash);
         while (m_arrSlot[i] != 0)
-            i = (i + 1) & mask;
-        m_arrSlot[i] = slot;
-    }
+            i = Next(i);
+        m_arrSlot[i] = TagOf(record.hash) | (ref + 1);
+    });
 }
 
 void CMessageStore::Clear()
@@ -209,8 +220,7 @@ void CMessageStore::Trim()
     if (m_nCount == 0)
         return CMessageStore().Swap(*this);
     m_arrBlock.resize(m_nBlock + 1);
-    if (const std::size_t slots = std::max(kFewSlots, std::bit_ceil(m_nCount * 4 / 3 + 1));
-        slots < m_arrSlot.size() && m_nCount + 1 <= slots / 4 * 3)
+    if (const std::size_t slots = std::max(kFewSlots, SlotsFor(m_nCount + 1)); slots < m_arrSlot.size())
         Index(slots);
 }
 

@@ -49,9 +49,10 @@ public:
     void Trim();
 
 private:
-    /// Stands before the units of key and value, on a boundary of its own size's half.
+    /// Stands before the units of key and value. The records of a block can be walked over.
     struct Record
     {
+        std::uint32_t hash; ///< of the key
         std::uint32_t keyLength;
         std::uint32_t valueLength;
 
@@ -61,12 +62,14 @@ private:
     };
     /// Where a record is: the block in the upper 16 bits, its place there in grains in the lower.
     using Ref = std::uint32_t;
-    /// The key's hash in the upper half, the record's Ref plus one in the lower; 0 for an empty slot.
-    using Slot = std::uint64_t;
+    /// A record's Ref plus one in the lower m_nRefBits, above them as many bits of its key's hash as there is
+    /// room for; 0 for an empty slot. The table is small, so that it stays in the processor's cache.
+    using Slot = std::uint32_t;
 
     static constexpr std::size_t kGrain = alignof(Record);           ///< bytes
     static constexpr std::size_t kMostBlock = kGrain << 16;          ///< bytes of a block with many records
     static constexpr std::size_t kFirstBlock = std::size_t{4} << 10; ///< bytes; the next ones grow
+    static constexpr std::uint32_t kReplaced = 1u << 31; ///< in a keyLength: another record has the key now
 
     struct Free
     {
@@ -80,25 +83,38 @@ private:
     };
 
     static std::size_t BytesOf(std::size_t units);
+    static std::size_t BytesOf(const Record& record);
+    static std::size_t SlotsFor(std::size_t count) { return count * 5 / 4 + 1; }
     Record& At(Slot slot) const
     {
-        const Ref ref = static_cast<Ref>(slot) - 1;
+        const Ref ref = (slot & ~TagMask()) - 1;
         return *reinterpret_cast<Record*>(m_arrBlock[ref >> 16].bytes.get() + (ref & 0xFFFF) * kGrain);
     }
+    std::uint32_t TagMask() const { return static_cast<std::uint32_t>(~std::uint64_t{0} << m_nRefBits); }
+    std::uint32_t TagOf(std::uint32_t hash) const
+    {
+        return static_cast<std::uint32_t>(std::uint64_t{hash} << m_nRefBits);
+    }
+    std::size_t HomeOf(std::uint32_t hash) const { return std::uint64_t{hash} * m_arrSlot.size() >> 32; }
+    std::size_t Next(std::size_t slot) const { return slot + 1 == m_arrSlot.size() ? 0 : slot + 1; }
     /// The slot of \p key, or the empty one where it belongs.
     std::size_t SlotOf(units::view key, std::uint32_t hash) const;
     void Place(std::size_t slot, std::uint32_t hash, units::view key, units::view value);
-    Ref Append(units::view key, units::view value);
+    Ref Append(std::uint32_t hash, units::view key, units::view value);
     char* Take(std::size_t bytes, Ref& ref);
     void AddBlock(std::size_t least);
     void MakeRoom();
     void Index(std::size_t slots);
     void Tidy();
+    /// Calls visit(record, ref) for every message.
+    template <class Visit>
+    void ForEach(Visit visit) const;
 
     std::vector<Slot> m_arrSlot;
     std::vector<Block> m_arrBlock;
+    unsigned m_nRefBits = 16;
     std::size_t m_nBlock = 0; ///< the block that is being filled; those behind it are empty
     std::size_t m_nCount = 0;
     std::size_t m_nUsed = 0; ///< bytes of all records
-    std::size_t m_nDead = 0; ///< of these, bytes of texts that were replaced
+    std::size_t m_nDead = 0; ///< of these, bytes of records that were replaced
 };
