@@ -60,16 +60,39 @@ CString INIResourceManager::GetProgramRootPath(HINSTANCE module)
     return path.Left(path.ReverseFind(platform::file::separator));
 }
 
+CString INIResourceManager::GetLanguageFilePath(const CString& project, const CString& folder,
+                                                const CString& suffix)
+{
+    const CString languages = Joined(GetProgramRootPath(nullptr), L"Language");
+    return Joined(Joined(languages, folder), L"ctrl_" + project + suffix + L".ini");
+}
+
 int INIResourceManager::InitINIResourceMgr()
 {
-    const CString folder = Joined(Joined(GetProgramRootPath(nullptr), L"Language"), L"Korean");
     for (INT_PTR i = 0; i < m_arrProjectName.GetSize(); ++i)
     {
-        const CString path = Joined(folder, L"ctrl_" + m_arrProjectName[i] + L"_kr" + L".ini");
+        const CString path = GetLanguageFilePath(m_arrProjectName[i], L"Korean", L"_kr");
         if (LoadINIDataToFile(m_arrProjectName[i], path))
             m_arrINIPath.Add(path);
     }
     return 1;
+}
+
+int INIResourceManager::ReloadINIResource(const std::function<CLanguageFiles(const CString&)>& files)
+{
+    int count = 0;
+    m_arrINIPath.RemoveAll();
+    for (const auto& [project, table] : m_gResourceListMap)
+    {
+        if (!table)
+            continue;
+        const CLanguageFiles named = files(project);
+        if (!table->Load(named.strPrimary, named.strSecondary, named.nCodePage))
+            continue;
+        m_arrINIPath.Add(named.strPrimary);
+        ++count;
+    }
+    return count;
 }
 
 int INIResourceManager::LoadINIDataToFile(CString project, CString path)

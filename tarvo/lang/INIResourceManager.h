@@ -5,7 +5,17 @@
 #include "tarvo/lang/DialogTemplate.h"
 #include "tarvo/lang/XMultiLang.h"
 
+#include <functional>
 #include <map>
+
+/// Where a project's texts in one language are: a primary file, one that fills its gaps (empty for none),
+/// and the code page of both when they are 8-bit text.
+struct CLanguageFiles
+{
+    CString strPrimary;
+    CString strSecondary;
+    int nCodePage = 0;
+};
 
 /// The language tables of the process, one for each module (project). Modules register their tables, the
 /// registry loads the tables' files and answers texts across all of them. It owns the tables from their
@@ -23,6 +33,13 @@ public:
     /// other languages' texts come from the message catalogue. A file that is missing leaves its table as it
     /// is. Returns 1.
     static int InitINIResourceMgr();
+    /// Loads other files into every table, one after the other in the order of the project names; \p files
+    /// names those of a project. A table whose files are missing has no texts then, rather than those of
+    /// the language before. The texts that GetValue has answered stay. Returns how many tables were loaded.
+    static int ReloadINIResource(const std::function<CLanguageFiles(const CString& project)>& files);
+    /// The path of a project's file in a language's folder beside the program: "Language", \p folder, and
+    /// "ctrl_" + project + suffix + ".ini".
+    static CString GetLanguageFilePath(const CString& project, const CString& folder, const CString& suffix);
     /// The table of a project; null when there is none.
     static XMultiLang* GetXMultiLang(CString project);
     /// The text of a key in the default sections: the first table's, in the order of the project names, whose

@@ -16,6 +16,8 @@ constexpr wchar_t kNotRegistered[] = L"Not Registered String";
 constexpr wchar_t kSharedControls[] = L"DIALOG";
 constexpr wchar_t kMenus[] = L"MENUSTR";
 constexpr wchar_t kToTranslate[] = L"#Need to Copy..#";
+/// The most characters of a text that the message catalogue's texts replace.
+constexpr int kMostText = 260;
 
 void SpellOutBreaks(CString& text)
 {
@@ -60,6 +62,17 @@ int XMultiLang::Create(CString primaryPath, CString secondaryPath)
     const int primary = m_primary.Open(primaryPath);
     const int secondary = !secondaryPath.IsEmpty() && m_secondary.Open(secondaryPath);
     return primary || secondary ? _Create() : 0;
+}
+
+int XMultiLang::Load(CString primaryPath, CString secondaryPath, int codePage)
+{
+    m_bCreated = 0;
+    for (XIni* document : {&m_primary, &m_secondary})
+    {
+        document->Clear();
+        document->SetCodePage(codePage);
+    }
+    return Create(primaryPath, secondaryPath);
 }
 
 int XMultiLang::Create(unsigned char* bytes, int size)
@@ -254,4 +267,33 @@ CString XMultiLang::FindCatalogueText(const CStringArray& names, const CString& 
             return text;
     }
     return fallback;
+}
+
+int XMultiLang::SelectDlgTexts(unsigned int id, const CString& project)
+{
+    m_nMsgProject = qlx::lib::TranslateUtil::GetMSGPROJbyName(project);
+    return SelectDialog(id);
+}
+
+int XMultiLang::GetDlgCaptionText(const CString& text, CString& translated) const
+{
+    if (text.IsEmpty())
+        return 0;
+    // A dialog's caption is kept under its name twice.
+    const CString key = L"IDS_" + m_strDialog + L"_" + m_strDialog;
+    translated = qlx::lib::MMSGFunction::GetValueByDefault(key, text.Left(kMostText), m_nMsgProject, 1);
+    return 1;
+}
+
+int XMultiLang::GetDlgControlText(int id, const CString& text, CString& translated)
+{
+    CStringArray names;
+    FindDialogControlText(id, names);
+    if (text.IsEmpty() || names.IsEmpty())
+        return 0;
+    const CString key = L"IDS_" + m_strDialog + L"_" + names[0];
+    const CString fallback =
+        qlx::lib::MMSGFunction::GetValueByDefault(key, text.Left(kMostText), m_nMsgProject, 1);
+    translated = FindCatalogueText(names, fallback);
+    return 1;
 }

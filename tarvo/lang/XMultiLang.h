@@ -42,6 +42,9 @@ public:
     /// Opens the primary file and, unless its path is empty, the secondary one. 0 only when none could be
     /// read. 8-bit files are read in the code page that was set on their documents before.
     int Create(CString primaryPath, CString secondaryPath);
+    /// Drops both documents and opens others: what a change of language does. 8-bit files are read in
+    /// \p codePage. The same result as Create; after 0 the table answers as before its first Create.
+    int Load(CString primaryPath, CString secondaryPath, int codePage);
     /// Takes the primary document from memory (XIni::OpenMemory); always 1.
     int Create(unsigned char* bytes, int size);
     /// The number "CODEPAGE" of the primary document's section "GENERAL" as it was when a Create last
@@ -93,6 +96,13 @@ public:
     /// "IDS_" + dialog + "_" + control. Does nothing when the identifier names no dialog. Empty texts stay
     /// empty.
     void SetDlgTexts(HWND dialog, unsigned int id, CString project);
+    /// The rules of SetDlgTexts over texts that the caller has kept, for windows that are translated again.
+    /// The first makes a dialog the current one, with the project whose messages count; 0 when the
+    /// identifier names no dialog. The others give the text that takes the place of the caption, or of a
+    /// control's text, in it; 0 when that is left alone.
+    int SelectDlgTexts(unsigned int id, const CString& project);
+    int GetDlgCaptionText(const CString& text, CString& translated) const;
+    int GetDlgControlText(int id, const CString& text, CString& translated);
     /// Translates the caption and the direct children of a dialog from the language files, by the rules of
     /// FindDialogControlText, and counts where the texts came from. Windows without a name are not counted.
     /// Does nothing when the identifier names no dialog.

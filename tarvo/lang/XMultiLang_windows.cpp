@@ -116,33 +116,22 @@ CTranslateCount XMultiLang::TranslateDialog(HWND dialog, unsigned int id)
 void XMultiLang::SetDlgTexts(HWND dialog, unsigned int id, CString project)
 {
     m_hDialog = dialog;
-    m_nMsgProject = qlx::lib::TranslateUtil::GetMSGPROJbyName(project);
-    if (!SelectDialog(id))
+    CString text;
+    if (!SelectDlgTexts(id, project))
         return;
     const CPaintingPause pause(dialog);
-    const CString caption = TextOf(dialog);
-    if (!caption.IsEmpty())
-    {
-        // A dialog's caption is kept under its name twice.
-        const CString key = L"IDS_" + m_strDialog + L"_" + m_strDialog;
-        ::SetWindowTextW(dialog, qlx::lib::MMSGFunction::GetValueByDefault(key, caption, m_nMsgProject, 1));
-    }
+    if (GetDlgCaptionText(TextOf(dialog), text))
+        ::SetWindowTextW(dialog, text);
     ::EnumChildWindows(dialog, EnumProc, reinterpret_cast<LPARAM>(this));
 }
 
 int XMultiLang::EnumProc(HWND child, LPARAM table)
 {
     XMultiLang& self = *reinterpret_cast<XMultiLang*>(table);
-    if (!IsChildOf(child, self.m_hDialog))
-        return 1;
-    CStringArray names;
-    self.FindDialogControlText(::GetDlgCtrlID(child), names);
-    const CString text = TextOf(child);
-    if (text.IsEmpty() || names.IsEmpty())
-        return 1;
-    const CString key = L"IDS_" + self.m_strDialog + L"_" + names[0];
-    const CString fallback = qlx::lib::MMSGFunction::GetValueByDefault(key, text, self.m_nMsgProject, 1);
-    ::SetWindowTextW(child, self.FindCatalogueText(names, fallback));
+    CString text;
+    if (IsChildOf(child, self.m_hDialog) &&
+        self.GetDlgControlText(::GetDlgCtrlID(child), TextOf(child), text))
+        ::SetWindowTextW(child, text);
     return 1;
 }
 

@@ -255,3 +255,32 @@ TEST_F(Registry, WritesWhatIsMissingBesideTheProgram)
               "\xFF\xFE" + platform::codepage::to_utf16le(expected));
     EXPECT_EQ(INIResourceManager::GetMissingText(), expected.c_str());
 }
+
+TEST_F(Registry, ReloadPutsTheFilesOfAnotherLanguageIntoEveryTable)
+{
+    auto* const draw = make_table(L"[TEXT]\nKEY=kept from before\nOLD=old\n");
+    draw->GetSecondaryXIni().OpenMemory(L"[TEXT]\nGAP=old\n", 15);
+    auto* const steel = make_table(L"[TEXT]\nKEY=old\n");
+    INIResourceManager::AppendMap(L"Draw", draw);
+    INIResourceManager::AppendMap(L"Steel", steel);
+    INIResourceManager::AppendMap(L"Null", nullptr);
+    write_korean(L"Draw", L"[TEXT]\nKEY=new\n");
+    const auto rule = [](const CString& project) {
+        return CLanguageFiles{INIResourceManager::GetLanguageFilePath(project, L"Korean", L"_kr"), L"", 949};
+    };
+    EXPECT_EQ(INIResourceManager::ReloadINIResource(rule), 1);
+    EXPECT_EQ(draw->Lang(L"KEY", nullptr), L"new");
+    EXPECT_EQ(draw->Lang(L"OLD", nullptr), kNotFound);
+    EXPECT_EQ(draw->Lang(L"GAP", nullptr), kNotFound);
+    EXPECT_EQ(steel->Lang(L"KEY", nullptr), kNotLoaded);
+    ASSERT_EQ(INIResourceManager::m_arrINIPath.GetSize(), 1);
+    EXPECT_EQ(INIResourceManager::m_arrINIPath[0], files.front().c_str());
+}
+
+TEST_F(Registry, LanguageFilePathIsBesideTheProgram)
+{
+    const std::wstring slash(1, platform::file::separator);
+    const std::wstring path =
+        program_folder() + slash + L"Language" + slash + L"Russia" + slash + L"ctrl_Draw_rus.ini";
+    EXPECT_EQ(INIResourceManager::GetLanguageFilePath(L"Draw", L"Russia", L"_rus"), path.c_str());
+}

@@ -7,6 +7,8 @@
 #include "tests/support/TestRegistry.h"
 #include "tests/tarvo/lang/Dump.h"
 
+#include "qlx/qlx_lib.h"
+
 #include <gtest/gtest.h>
 
 namespace
@@ -271,4 +273,47 @@ TEST_F(Tables, FindModeNotesEachMissingKeyOnce)
                                             L"[MENUSTR] File=#Need to Copy..#; ID_OPEN=#Need to Copy..#; "
                                             L"[S] none=#Need to Copy..#; other=#Need to Copy..#; "
                                             L"[TEXT] t=#Need to Copy..#;");
+}
+
+namespace
+{
+/// A catalogue of two texts.
+class TwoTexts : public qlx::lib::IMSGTextProvider
+{
+public:
+    TwoTexts() { qlx::lib::MMSGFunction::RegisterProvider(this); }
+    ~TwoTexts() override { qlx::lib::MMSGFunction::UnregisterProvider(this); }
+    bool GetText(const wchar_t* key, int, CString& text) override
+    {
+        if (std::wstring(key) == L"IDS_IDD_SETUP_IDC_NAME2")
+            text = L"Name (de)";
+        else if (std::wstring(key) == L"IDS_IDD_SETUP_IDD_SETUP")
+            text = L"Einstellungen";
+        else
+            return false;
+        return true;
+    }
+};
+} // namespace
+
+TEST(XMultiLangCatalogue, RulesOfADialogsTextsNeedNoWindow)
+{
+    const TwoTexts catalogue;
+    XMultiLang table;
+    load_header(
+        table,
+        L"#define IDD_SETUP 120\n#define IDC_NAME 1001\n#define IDC_NAME2 1001\n#define IDC_SIZE 1002\n");
+    CString text = L"untouched";
+    EXPECT_EQ(table.SelectDlgTexts(999, L"Draw"), 0);
+    EXPECT_EQ(table.SelectDlgTexts(120, L"Draw"), 1);
+    EXPECT_EQ(table.GetDlgCaptionText(L"", text), 0);
+    EXPECT_EQ(table.GetDlgControlText(1001, L"", text), 0);
+    EXPECT_EQ(table.GetDlgControlText(1003, L"no name", text), 0);
+    EXPECT_EQ(text, L"untouched");
+    EXPECT_EQ(table.GetDlgCaptionText(L"Setup", text), 1);
+    EXPECT_EQ(text, L"Einstellungen");
+    EXPECT_EQ(table.GetDlgControlText(1001, L"Name", text), 1);
+    EXPECT_EQ(text, L"Name (de)");
+    EXPECT_EQ(table.GetDlgControlText(1002, std::wstring(300, L's').c_str(), text), 1);
+    EXPECT_EQ(text.GetLength(), 260);
 }
