@@ -180,6 +180,18 @@ int XMultiLang::FindDialogControlText(int id, CString& text)
     return 0;
 }
 
+int XMultiLang::FindSharedText(const wchar_t* name, CString& text)
+{
+    text.Empty();
+    if (FindText(kSharedControls, name, text) == SOURCE_NONE)
+    {
+        text.Empty();
+        return 0;
+    }
+    SpellOutBreaks(text);
+    return 1;
+}
+
 void XMultiLang::FindDialogControlText(int id, CStringArray& names)
 {
     names.RemoveAll();

@@ -92,6 +92,10 @@ public:
     /// there is none.
     CString __TranslateCtrlID(CWnd* window, int id);
 
+    /// The text of a control that many dialogs share, by its name: of the section "DIALOG", primary before
+    /// secondary. 0, with \p text empty, when it has none.
+    int FindSharedText(const wchar_t* name, CString& text);
+
     /// Translates the caption and the direct children of a dialog from the message catalogue, by the keys
     /// "IDS_" + dialog + "_" + control. Does nothing when the identifier names no dialog. Empty texts stay
     /// empty.

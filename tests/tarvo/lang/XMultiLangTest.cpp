@@ -317,3 +317,22 @@ TEST(XMultiLangCatalogue, RulesOfADialogsTextsNeedNoWindow)
     EXPECT_EQ(table.GetDlgControlText(1002, std::wstring(300, L's').c_str(), text), 1);
     EXPECT_EQ(text.GetLength(), 260);
 }
+
+TEST(XMultiLangCatalogue, SharedTextIsThePrimarysUnlessItIsEmpty)
+{
+    XMultiLang table;
+    const std::wstring primary = L"[DIALOG]\nIDOK=Gut\\nso\nIDCANCEL=\nIDHELP=\n";
+    const std::wstring secondary = L"[DIALOG]\nIDOK=Well\nIDCANCEL=Away\n";
+    table.GetXIni().OpenMemory(primary.c_str(), static_cast<int>(primary.size()));
+    table.GetSecondaryXIni().OpenMemory(secondary.c_str(), static_cast<int>(secondary.size()));
+    CString text = L"before";
+    EXPECT_EQ(table.FindSharedText(L"IDOK", text), 1);
+    EXPECT_EQ(text, L"Gut\nso");
+    EXPECT_EQ(table.FindSharedText(L"IDCANCEL", text), 1);
+    EXPECT_EQ(text, L"Away");
+    for (const wchar_t* name : {L"IDHELP", L"IDNONE"})
+    {
+        EXPECT_EQ(table.FindSharedText(name, text), 0);
+        EXPECT_EQ(text, L"");
+    }
+}
