@@ -54,6 +54,16 @@ protected:
     }
 };
 
+/// Every window of a dialog that is opened now: class, identifier, text, place and font.
+std::wstring FreshDump()
+{
+    CTableDlg dlg;
+    EXPECT_TRUE(dlg.Create(IDD_SETUP));
+    std::wstring dump = DumpOf(dlg.m_hWnd);
+    dlg.DestroyWindow();
+    return dump;
+}
+
 int g_texts;
 WNDPROC g_former;
 LRESULT CALLBACK CountTexts(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -75,9 +85,11 @@ TEST_F(LanguageSwitch, OpenDialogShowsWhatAFreshOneWould)
     EXPECT_EQ(CLanguageSwitch::Retranslate(), 1);
     EXPECT_EQ(TextsOf(dlg.m_hWnd), Fresh());
     EXPECT_EQ(TextOf(dlg.Item(IDC_SEARCH)), L"Search") << "no entry: what the template said";
+    SetTextFont("Lucida Console");
     SpeakGerman();
     CLanguageSwitch::Retranslate();
     EXPECT_EQ(TextsOf(dlg.m_hWnd), Fresh());
+    EXPECT_EQ(DumpOf(dlg.m_hWnd), FreshDump());
     catalogue.texts.clear();
     CLanguageSwitch::Retranslate();
     EXPECT_EQ(TextsOf(dlg.m_hWnd), Fresh());
@@ -300,6 +312,27 @@ TEST_F(LanguageSwitch, ControlThatGoesWhileTextsAreSetIsPassedOver)
     SpeakFrench();
     EXPECT_EQ(CLanguageSwitch::Retranslate(), 1);
     EXPECT_EQ(TextOf(dlg.Item(IDC_LABEL)), L"Nom");
+    dlg.DestroyWindow();
+}
+
+TEST_F(LanguageSwitch, ControlThatIsSubclassedWhileItIsGuardedGoesOnWorking)
+{
+    CEdit edit;
+    CTableDlg dlg;
+    ASSERT_TRUE(dlg.Create(IDD_SETUP));
+    dlg.SetDlgItemText(IDC_NAME_EDIT, L"typed");
+    dlg.onText = [&] {
+        if (!edit.m_hWnd)
+            edit.SubclassDlgItem(IDC_NAME_EDIT, &dlg);
+        edit.SetWindowText(L"overwritten");
+    };
+    for (int i = 0; i < 2; ++i)
+    {
+        CLanguageSwitch::Retranslate();
+        EXPECT_EQ(TextOf(edit.m_hWnd), L"typed");
+    }
+    edit.SetWindowText(L"more");
+    EXPECT_EQ(TextOf(edit.m_hWnd), L"more");
     dlg.DestroyWindow();
 }
 
