@@ -36,8 +36,11 @@ for target in "${targets[@]}"; do
   findings=build/fuzz/findings/$target corpus=build/fuzz/corpus/$target log=build/fuzz/$target.log
   mkdir -p "$findings" "$corpus"
   touch "$findings/.started"
+  # Real scripts stay where they are: TARVO_CORPUS names their folder.
+  more=()
+  [ "$target" != script ] || [ ! -d "${TARVO_CORPUS:-}" ] || more=("$TARVO_CORPUS")
   if ! step "$target: searching for $seconds s" "$log" "$program" -max_total_time="$seconds" -timeout=20 \
-    -rss_limit_mb=4096 -print_final_stats=1 -artifact_prefix="$findings/" "$corpus" "fuzz/seeds/$target"; then
+    -rss_limit_mb=4096 -print_final_stats=1 -artifact_prefix="$findings/" "$corpus" "fuzz/seeds/$target" "${more[@]}"; then
     status=1
     echo "finding: $(find "$findings" -type f -newer "$findings/.started" ! -name .started | tr '\n' ' ')"
     continue

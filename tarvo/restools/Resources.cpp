@@ -4,6 +4,18 @@
 #include "tarvo/restools/ScriptReader.h"
 #include "tarvo/text/Units.h"
 
+namespace
+{
+template <class T>
+std::size_t NestedBytes(const CResBaseclass<T>& list)
+{
+    std::size_t bytes = list.GetMemory();
+    for (const T& one : list)
+        bytes += one.m_items.GetMemory();
+    return bytes;
+}
+} // namespace
+
 CResources::CResources() = default;
 CResources::~CResources() = default;
 CResources::CResources(CResources&&) noexcept = default;
@@ -47,4 +59,11 @@ bool CResources::ReadMemory(std::string_view bytes, CString& strLog, const wchar
     log += u"Reading done\r\n";
     strLog += units::to_string(log);
     return true;
+}
+
+std::size_t CResources::MemoryBytes() const
+{
+    return TextBytes() + m_keep.GetSize() * sizeof(char16_t) + NestedBytes(m_menus) +
+           NestedBytes(m_toolbars) + NestedBytes(m_dialogs) + m_strings.GetMemory() + m_bitmaps.GetMemory() +
+           m_pngs.GetMemory() + m_icons.GetMemory() + m_cursors.GetMemory();
 }

@@ -55,6 +55,9 @@ public:
     auto begin() const { return m_arr.begin(); }
     auto end() const { return m_arr.end(); }
 
+    /// Bytes that the list takes, without its index and without what its items own.
+    std::size_t GetMemory() const { return m_arr.capacity() * sizeof(T); }
+
     /// The position of the first item with this key, or -1.
     int Find(CResText key) const { return Find(key, 0); }
     /// The position of the item that is number \p rank, from 0, among those with this key, or -1.
@@ -165,6 +168,8 @@ public:
 
     /// Bytes of the decoded text alone.
     std::size_t TextBytes() const { return m_text.View().size() * sizeof(char16_t); }
+    /// Bytes that everything read takes, the decoded text included; look-ups add to it.
+    std::size_t MemoryBytes() const;
 
 private:
     friend class CScriptReader;
