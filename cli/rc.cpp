@@ -1,6 +1,7 @@
 #include "cli/groups.h"
 #include "cli/rc_script.h"
 #include "cli/text.h"
+#include "tarvo/restools/ExportIni.h"
 #include "tarvo/restools/WritePairs.h"
 #include "tarvo/restools/WriteStringList.h"
 #include "tarvo/restools/WriteTree.h"
@@ -67,6 +68,19 @@ constexpr Example check_examples[] = {{"one text", "tarvo rc check '%d of %s' '%
 constexpr Example pairs_examples[] = {{"a translation memory", "tarvo rc pairs app.rc app_kr.rc --quoted"}};
 constexpr Example strings_examples[] = {
     {"checks the spelling", "tarvo rc strings app.rc --clean | aspell list"}};
+constexpr Operand export_operands[] = {{"ENGLISH", Value::file, "the script that the module was built from"},
+                                       {"TRANSLATED", Value::file, "the same script in another language"}};
+constexpr Option export_options[] = {
+    {"project", '\0', Value::text, "NAME",
+     "the module's project name, written as PROJECT of GENERAL; must be given"},
+    {"code-page", '\0', Value::page, "N",
+     "the CODEPAGE of GENERAL; by default that of the language TRANSLATED names last"},
+    {"language1", '\0', Value::text, "LANG_X",
+     "reads of ENGLISH only what follows a LANGUAGE statement with this word, in any letter case"},
+    {"language2", '\0', Value::text, "LANG_X", "the same for TRANSLATED"}};
+constexpr Example export_examples[] = {
+    {"a Korean language file out of two scripts",
+     "tarvo rc export-ini a.rc a_kr.rc --project steel -o ctrl_steel_kr.ini"}};
 constexpr Example tree_examples[] = {{"what a script holds", "tarvo rc tree app.rc --ids-only"}};
 
 Result show(const Call& call)
@@ -99,6 +113,20 @@ Result strings(const Call& call)
     CString text;
     WriteStringList(script.resources, text, call.option("clean") != nullptr);
     return {Status::done, listing(call, text)};
+}
+
+Result export_ini(const Call& call)
+{
+    const std::string* const project = call.option("project");
+    if (project == nullptr)
+        throw Failure{Status::usage, "rc export-ini", "--project NAME is missing"};
+    const auto [one, two] = read_scripts(call);
+    int page = call.page("code-page");
+    if (page == 0)
+        page = CodePageOfLanguage(two.languages.empty() ? nullptr : two.languages.back().GetString());
+    XIni ini;
+    ExportIni(one.resources, two.resources, to_wide(*project).c_str(), page, ini);
+    return {Status::done, ini.Serialize()};
 }
 
 Result tree(const Call& call)
@@ -157,6 +185,15 @@ constexpr Command commands[] = {
      "Lists every resource by kind, with its items.",
      "headings, below them two spaces and a name or four spaces and an item's ID, tab, text.",
      "{\"text\":TREE}", tree_examples, tree},
+    {"export-ini", "writes a language file from a script and its translation", export_operands,
+     export_options,
+     "Writes the texts of TRANSLATED as a host's language file, UTF-16LE: a section for each dialog of "
+     "ENGLISH with "
+     "its caption and its controls by their symbols, DIALOG for what several dialogs share, MENUSTR for "
+     "menus. A "
+     "control without a symbol of its own in its dialog is left out.",
+     "the bytes of the language file, whatever the format.", "", export_examples, export_ini},
+
 };
 } // namespace
 

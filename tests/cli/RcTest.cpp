@@ -231,3 +231,22 @@ TEST_F(RcTest, AScriptAboveTheLimitIsRefusedBeforeItIsRead)
     EXPECT_EQ(tarvo({"rc", "show", "sparse.rc"}),
               (Outcome{3, "", "tarvo: sparse.rc: larger than 67108864 bytes\n"}));
 }
+
+TEST_F(RcTest, ExportIniWritesALanguageFileThatIniShowReads)
+{
+    write("en.rc", "IDD_A DIALOG 0\nCAPTION \"Setup\"\nBEGIN\nLTEXT \"Name\",IDC_NAME\nEND\n");
+    write("ko.rc", "\xEF\xBB\xBFLANGUAGE LANG_KOREAN, 1\nIDD_A DIALOG 0\nCAPTION \"설정\"\nBEGIN\nLTEXT "
+                   "\"이름\",IDC_NAME\nEND\n");
+    EXPECT_EQ(tarvo({"rc", "export-ini", "en.rc", "ko.rc", "--project", "steel", "--output", "out.ini"}),
+              (Outcome{0, "", ""}));
+    EXPECT_EQ(tarvo({"ini", "show", "out.ini"}),
+              (Outcome{0,
+                       "[GENERAL] CODEPAGE = \"949\"\n[GENERAL] PROJECT = \"steel\"\n"
+                       "[IDD_A] IDC_NAME = \"이름\"\n[IDD_A] IDD_A = \"설정\"\n",
+                       ""}));
+    tarvo(
+        {"rc", "export-ini", "en.rc", "en.rc", "--project", "steel", "--code-page", "1251", "-o", "out.ini"});
+    EXPECT_EQ(tarvo({"ini", "get", "out.ini", "GENERAL", "CODEPAGE"}), (Outcome{0, "1251\n", ""}));
+    EXPECT_EQ(tarvo({"rc", "export-ini", "en.rc", "ko.rc"}),
+              (Outcome{2, "", "tarvo: rc export-ini: --project NAME is missing\n"}));
+}
