@@ -60,8 +60,16 @@ constexpr SignRule percentRule = {u'%', PercentWordLength, u"Different number of
 constexpr SignRule backslashRule = {u'\\', BackslashWordLength, u"Different number of \\-signs ('",
                                     u"Different \\-characters ("};
 
+bool Holds(View text, char16_t sign)
+{
+    const char16_t* const end = text.data() + text.size();
+    return units::find(text.data(), end, sign) != end;
+}
+
 std::u16string CheckSigns(View text1, View text2, const SignRule& rule)
 {
+    if (!Holds(text1, rule.sign) && !Holds(text2, rule.sign)) // nearly all of a script
+        return {};
     if (std::count(text1.begin(), text1.end(), rule.sign) !=
         std::count(text2.begin(), text2.end(), rule.sign))
         return Join({rule.differentCount, text1, u"', '", text2, u"')"});

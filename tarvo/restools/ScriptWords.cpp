@@ -34,22 +34,38 @@ void CScriptWords::EndWordsAt(WordSeparators separators)
 // a word too.
 bool CScriptWords::FindWord(bool& isEmpty)
 {
+    const char16_t* at = m_at;
+    const char16_t* const end = m_end;
+    bool found = true;
     while (true)
     {
-        while (m_at != m_end && IsSeparator(*m_at))
-            ++m_at;
-        if (m_at == m_end)
-            return false;
-        if (*m_at != u'"' || IsPair(m_at) || IsEscaped(m_at))
-            return true;
-        ++m_at;
+        while (at != end && IsSeparator(*at))
+            ++at;
+        found = at != end;
+        if (!found || *at != u'"' || IsPair(at) || IsEscaped(at))
+            break;
+        ++at;
+        isEmpty = m_inSpan;
         m_inSpan = !m_inSpan;
-        if (!m_inSpan)
-        {
-            isEmpty = true;
-            return true;
-        }
+        if (isEmpty)
+            break;
     }
+    m_at = at;
+    return found;
+}
+
+// The end of the plain text that begins at \p at: a quote, or outside of a span a separator.
+const char16_t* CScriptWords::FindStop(const char16_t* at) const
+{
+    const char16_t* const end = m_end;
+    if (m_inSpan)
+        while (at != end && *at != u'"')
+            ++at;
+    else
+        for (const std::uint64_t stops = m_separators | quoteBit; at != end; ++at)
+            if (*at < 64 && (stops >> *at & 1) != 0)
+                break;
+    return at;
 }
 
 bool CScriptWords::Scan(Raw& raw)
@@ -57,45 +73,42 @@ bool CScriptWords::Scan(Raw& raw)
     bool isEmpty = false;
     if (!FindWord(isEmpty))
         return false;
-    raw.first = raw.last = m_at;
+    const char16_t* at = m_at;
+    raw.first = raw.last = at;
     if (isEmpty)
         return true;
-
-    const std::uint64_t stops = m_separators | quoteBit;
     while (true)
     {
-        if (m_inSpan)
-            while (m_at != m_end && *m_at != u'"')
-                ++m_at;
-        else
-            while (m_at != m_end && !(*m_at < 64 && (stops >> *m_at & 1) != 0))
-                ++m_at;
-        raw.last = m_at;
-        if (m_at == m_end)
-            return true;
-        if (*m_at != u'"') // a separator
+        raw.last = at = FindStop(at);
+        if (at == m_end)
             break;
+        if (*at != u'"') // a separator
+        {
+            ++at;
+            break;
+        }
         // A pair is told before anything else: pairs are replaced before words are looked for.
-        if (IsPair(m_at))
+        if (IsPair(at))
         {
             raw.isPlain = false;
-            m_at += 2;
+            at += 2;
         }
-        else if (IsEscaped(m_at))
-            ++m_at;
+        else if (IsEscaped(at))
+            ++at;
         else if (m_inSpan)
         {
             m_inSpan = false;
+            ++at;
             break;
         }
         else // a span that opens inside a word
         {
             raw.isPlain = false;
             m_inSpan = true;
-            ++m_at;
+            ++at;
         }
     }
-    ++m_at;
+    m_at = at;
     return true;
 }
 

@@ -54,6 +54,7 @@ private:
     bool IsPair(const char16_t* quote) const { return quote + 1 != m_end && quote[1] == u'"'; }
     bool IsEscaped(const char16_t* quote) const { return quote != m_begin && quote[-1] == u'\\'; }
     bool FindWord(bool& isEmpty);
+    const char16_t* FindStop(const char16_t* at) const;
     bool Scan(Raw& raw);
     std::u16string_view Compose(const Raw& raw);
 
