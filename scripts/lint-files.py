@@ -14,7 +14,7 @@ folders_of_headers = {os.path.dirname(path) for path in named if path.endswith("
 
 def compiled(preset):
     with open(os.path.join(root, "build", preset, "compile_commands.json"), encoding="utf-8") as file:
-        paths = {os.path.relpath(entry["file"], root) for entry in json.load(file)}
+        paths = {os.path.relpath(entry["file"], root) for entry in json.load(file) if entry["file"].endswith(".cpp")}
     return {path for path in paths if path in named or
             (os.path.dirname(path) in folders_of_headers and not path.startswith(("build", "..")))}
 

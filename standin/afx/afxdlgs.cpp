@@ -54,7 +54,7 @@ POSITION CFileDialog::GetStartPosition() const
 CString CFileDialog::GetNextPathName(POSITION& pos) const
 {
     LPTSTR psz = reinterpret_cast<LPTSTR>(pos);
-    const CString strPath = NameAt(psz);
+    CString strPath = NameAt(psz);
     LPTSTR pszNext = psz + ::wcslen(psz) + 1;
     pos = psz != m_ofn.lpstrFile && *pszNext != 0 ? reinterpret_cast<POSITION>(pszNext) : nullptr;
     return strPath;
