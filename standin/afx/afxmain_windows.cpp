@@ -2,6 +2,7 @@
 
 /// The entry point of a window program. It stands in a library of its own, so that programs with a main
 /// function of theirs do without it.
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): as the framework names them
 int WINAPI WinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPSTR, int nCmdShow)
 {
     // The wide command line without the program's name, which may be quoted.

@@ -27,9 +27,11 @@ HINSTANCE FindModule(HasIt hasIt)
     const HINSTANCE hCurrent = AfxGetResourceHandle();
     if (hasIt(hCurrent))
         return hCurrent;
-    for (auto it = Libraries().rbegin(); it != Libraries().rend(); ++it)
-        if (hasIt((*it)->m_hResource))
-            return (*it)->m_hResource;
+    const auto newest =
+        std::find_if(Libraries().rbegin(), Libraries().rend(),
+                     [&](const CDynLinkLibrary* pLibrary) { return hasIt(pLibrary->m_hResource); });
+    if (newest != Libraries().rend())
+        return (*newest)->m_hResource;
     const HINSTANCE hProgram = AfxGetAppModuleState()->m_hCurrentResourceHandle;
     return hProgram != hCurrent && hasIt(hProgram) ? hProgram : nullptr;
 }

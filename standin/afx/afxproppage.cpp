@@ -123,7 +123,8 @@ INT_PTR CALLBACK CPropertyPage::PageProc(HWND hWnd, UINT message, WPARAM wParam,
 
 BOOL CPropertyPage::PreTranslateMessage(MSG* pMsg)
 {
-    return CWnd::PreTranslateMessage(pMsg); // the dialog's keys are the sheet's
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): the dialog's keys are the sheet's
+    return CWnd::PreTranslateMessage(pMsg);
 }
 
 void CPropertyPage::CancelToClose()

@@ -31,9 +31,9 @@ protected:
     }
     std::vector<int> Marks() const
     {
-        std::vector<int> marks;
-        for (int i = 0; i < m_list.GetCount(); ++i)
-            marks.push_back(m_list.GetCheck(i));
+        std::vector<int> marks(static_cast<std::size_t>(m_list.GetCount()));
+        for (std::size_t i = 0; i < marks.size(); ++i)
+            marks[i] = m_list.GetCheck(static_cast<int>(i));
         return marks;
     }
     void ClickMark(int nIndex)
