@@ -29,7 +29,7 @@ void join_console()
 {
     const HANDLE output = ::GetStdHandle(STD_OUTPUT_HANDLE);
     if ((output == nullptr || output == INVALID_HANDLE_VALUE) && ::AttachConsole(ATTACH_PARENT_PROCESS))
-        std::freopen("CONOUT$", "w", stdout);
+        static_cast<void>(std::freopen("CONOUT$", "w", stdout)); // without one the lines go nowhere
 }
 
 class CDemoApp : public CWinApp

@@ -154,11 +154,11 @@ LRESULT CWinThread::ProcessWndProcException(CException*, const MSG* pMsg)
 }
 
 CWinApp::CWinApp(LPCTSTR lpszAppName, AFX_MODULE_STATE* pModuleState)
-    : m_pszAppName(lpszAppName ? ::_wcsdup(lpszAppName) : nullptr)
+    : m_hInstance(pModuleState->m_hCurrentInstanceHandle),
+      m_pszAppName(lpszAppName ? ::_wcsdup(lpszAppName) : nullptr)
 {
     m_pModuleState = pModuleState;
     pModuleState->m_pCurrentWinApp = this;
-    m_hInstance = pModuleState->m_hCurrentInstanceHandle;
     m_nThreadID = ::GetCurrentThreadId();
     if (m_hInstance == ::GetModuleHandleW(nullptr))
         AfxSetAppModuleState(pModuleState);

@@ -37,7 +37,7 @@ protected:
     /// The new object becomes the sink in use, in place of any earlier one.
     msg_printer();
     /// A copy does not.
-    msg_printer(const msg_printer&) {}
+    msg_printer(const msg_printer&) = default;
     msg_printer& operator=(const msg_printer&) = default;
 };
 

@@ -97,6 +97,7 @@ TestRegistry::~TestRegistry()
     // Its own keys, also where an application path puts them below the local machine.
     for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE})
         ::RegDeleteTreeW(root, (L"Software\\" + m_strName).c_str());
+    // NOLINTNEXTLINE(modernize-loop-convert): backwards
     for (auto it = m_pState->borrowed.rbegin(); it != m_pState->borrowed.rend(); ++it)
     {
         ::RegDeleteTreeW(it->root, it->path.c_str());

@@ -43,12 +43,12 @@ inline void model_line(IniModel& model, std::map<std::wstring, std::wstring>*& s
         key = key.substr(key.find(L"/**/") + 4);
     key = model_trim(key);
     const std::wstring field = line.substr(line.size() - (line.size() - key.size() - 1));
-    const int first = static_cast<int>(field.find(L'"'));
-    int last = static_cast<int>(field.rfind(L'"'));
+    // "No quote" is -1 in the rules, which npos is when one is added to it.
+    const std::size_t first = field.find(L'"');
+    std::size_t last = field.rfind(L'"');
     if (first == last)
-        last = static_cast<int>(field.size());
-    (*section)[key] =
-        field.substr(static_cast<std::size_t>(first + 1), static_cast<std::size_t>(last - first - 1));
+        last = field.size();
+    (*section)[key] = field.substr(first + 1, last - (first + 1));
 }
 
 inline IniModel model_of(std::wstring text)

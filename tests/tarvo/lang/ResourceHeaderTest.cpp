@@ -15,6 +15,8 @@
 #include <string>
 #include <vector>
 
+using namespace std::string_literals;
+
 namespace
 {
 // Each table that is not empty: its letter, then value=NAME,NAME for each entry.
@@ -222,7 +224,7 @@ TEST(CResourceHeader, FileIsReadAsTheCLibraryReadsText)
     EXPECT_EQ(FileDump("#define IDC_A\xC7 5\n"), L"A 5=IDC_A\u00C7 | C 5=IDC_A\u00C7"); // byte for byte
     EXPECT_EQ(FileDump("#define IDC_A 5\n\x1A#define IDC_B 6\n"), L"A 5=IDC_A | C 5=IDC_A");
     EXPECT_EQ(FileDump("#define IDC_A 5\n#define IDC_B 6\x1A"), L"A 5=IDC_A 6=IDC_B | C 5=IDC_A 6=IDC_B");
-    EXPECT_EQ(FileDump(std::string("#define\0 IDC_A 5\n#define IDC_B 6\n", 34)), L"A 6=IDC_B | C 6=IDC_B");
+    EXPECT_EQ(FileDump("#define\0 IDC_A 5\n#define IDC_B 6\n"s), L"A 6=IDC_B | C 6=IDC_B");
     EXPECT_EQ(FileDump(""), L"");
 }
 
@@ -271,7 +273,7 @@ TEST(CResourceHeader, RealHeadersGiveEveryDefinedSymbol)
             if (std::sscanf(line.c_str(), "%63s %255s %255s", directive, name, value) != 3)
                 continue;
             const std::string_view symbol = name;
-            const auto holds = [&](const char* mark) { return symbol.find(mark) != symbol.npos; };
+            const auto holds = [&](const char* mark) { return symbol.find(mark) != std::string_view::npos; };
             expected += std::string_view(directive).starts_with("#define") && symbol[0] != '_' &&
                         (holds("IDC_") || holds("IDD_") || holds("IDR_") || holds("ID_"));
         }

@@ -86,7 +86,7 @@ TEST_F(StdioFileEx, MarkTellsUtf16)
                 {"\xEF\xBB\xBF"
                  "a",
                  false},
-                {"a\0", false}};
+                {"a\0"s, false}};
     for (const auto& row : rows)
     {
         Write(row.bytes);

@@ -244,7 +244,7 @@ TEST_F(MessageRouting, TheLoopOffersAMessageToEachParentUpToTheMainWindow)
         BOOL m_bTake = FALSE;
         BOOL PreTranslateMessage(MSG* pMsg) override
         {
-            if (pMsg->message == WM_OWN)
+            if (m_pLog && pMsg->message == WM_OWN)
                 m_pLog->push_back("child PreTranslateMessage");
             return m_bTake;
         }
