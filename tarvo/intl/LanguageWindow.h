@@ -87,6 +87,7 @@ private:
     void TranslateFirst(XMultiLang& table, UINT resource, const CString& project);
     bool MakeTextFont();
     void SendTextFont(HFONT former, bool redraw) const;
+    void ChangeTexts();
     void ChangeTextFont();
 
     SKIN_WINDOW m_kind;

@@ -6,6 +6,7 @@
 #include "tarvo/intl/TemplateTexts_windows.h"
 #include "tarvo/intl/TextGuard_windows.h"
 #include "tarvo/intl/WindowText_windows.h"
+#include "tarvo/lang/PaintingPause_windows.h"
 
 #include <algorithm>
 #include <cstring>
@@ -103,6 +104,7 @@ void CLanguageWindow::PutTextFont()
 
 void CLanguageWindow::ChangeTextFont()
 {
+    const CPaintingPause pause(m_pWindow->m_hWnd);
     CInternationalUtil::AdjustStaticControlHeight(m_pWindow);
     const HFONT former = m_hTextFont;
     if (!MakeTextFont())
@@ -163,15 +165,14 @@ void CLanguageWindow::FinishStart()
         ISkinFunc::Instance()->OnWindowReady(m_pWindow, m_kind);
 }
 
-void CLanguageWindow::ChangeLanguage()
+/// The template's texts, then the window's own. What the program has set stays, whoever translates.
+void CLanguageWindow::ChangeTexts()
 {
-    if (!IsOpen(this) || !m_pWindow->m_hWnd)
-        return;
-    const CEntryKeeper entries(m_pTexts->GetEntries(true));
+    const CPaintingPause pause(m_pWindow->m_hWnd);
     m_bChanging = true;
     m_pTexts->Examine();
     {
-        std::vector<HWND> kept = m_pTexts->GetEntries(true);
+        std::vector<HWND> kept = m_pTexts->GetReadOnlyEntries();
         const std::vector<HWND> program = m_pTexts->GetSetByProgram();
         kept.insert(kept.end(), program.begin(), program.end());
         const CTextGuard guard(kept);
@@ -185,10 +186,18 @@ void CLanguageWindow::ChangeLanguage()
     m_pTexts->Settle();
     m_bChanging = false;
     ChangeOwnTexts();
-    if (IsOpen(this))
+}
+
+void CLanguageWindow::ChangeLanguage()
+{
+    if (!IsOpen(this) || !m_pWindow->m_hWnd)
+        return;
+    const CEntryKeeper entries(m_pTexts->GetEntries());
     {
-        const CTextGuard guard(m_pTexts->GetEntries(false));
-        SetText();
+        const CTextGuard guard(m_pTexts->GetTypedEntries());
+        ChangeTexts();
+        if (IsOpen(this))
+            SetText();
     }
     if (!IsOpen(this))
         return;

@@ -90,11 +90,19 @@ std::vector<HWND> CTemplateTexts::GetSetByProgram() const
     return found;
 }
 
-std::vector<HWND> CTemplateTexts::GetEntries(bool withReadOnly) const
+std::vector<HWND> CTemplateTexts::EntriesWhere(bool readOnly) const
 {
     std::vector<HWND> found;
     for (const Entry& entry : m_entries)
-        if ((withReadOnly || !entry.readOnly) && IsThere(entry.window, entry.id))
+        if (entry.readOnly == readOnly && IsThere(entry.window, entry.id))
             found.push_back(entry.window);
     return found;
+}
+
+std::vector<HWND> CTemplateTexts::GetEntries() const
+{
+    std::vector<HWND> all = GetTypedEntries();
+    const std::vector<HWND> others = GetReadOnlyEntries();
+    all.insert(all.end(), others.begin(), others.end());
+    return all;
 }

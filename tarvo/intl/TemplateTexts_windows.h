@@ -33,8 +33,10 @@ public:
 
     /// The controls whose text the program has set, by the last Examine.
     std::vector<HWND> GetSetByProgram() const;
-    /// The controls with entries; those that the user can type into, or all.
-    std::vector<HWND> GetEntries(bool withReadOnly) const;
+    /// The controls with entries: all, those that the user can type into, and the others.
+    std::vector<HWND> GetEntries() const;
+    std::vector<HWND> GetTypedEntries() const { return EntriesWhere(false); }
+    std::vector<HWND> GetReadOnlyEntries() const { return EntriesWhere(true); }
 
 private:
     struct Record
@@ -51,6 +53,7 @@ private:
         int id;
         bool readOnly;
     };
+    std::vector<HWND> EntriesWhere(bool readOnly) const;
     bool IsThere(HWND window, int id) const;
     static void Show(const Record& record, const CString& text);
 

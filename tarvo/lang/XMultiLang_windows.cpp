@@ -2,6 +2,7 @@
 
 #include "platform/module.h"
 #include "tarvo/lang/MenuText_windows.h"
+#include "tarvo/lang/PaintingPause_windows.h"
 
 #include "qlx/qlx_lib.h"
 
@@ -32,29 +33,6 @@ std::vector<HWND> ChildrenOf(HWND dialog)
 }
 
 bool IsChildOf(HWND child, HWND dialog) { return ::IsWindow(child) && ::GetParent(child) == dialog; }
-
-/// Holds back a visible window's painting, which then happens once instead of for every text.
-class CPaintingPause
-{
-public:
-    explicit CPaintingPause(HWND window) : m_window(::IsWindowVisible(window) ? window : nullptr)
-    {
-        if (m_window)
-            ::SendMessageW(m_window, WM_SETREDRAW, FALSE, 0);
-    }
-    ~CPaintingPause()
-    {
-        if (!::IsWindow(m_window))
-            return;
-        ::SendMessageW(m_window, WM_SETREDRAW, TRUE, 0);
-        ::RedrawWindow(m_window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
-    }
-    CPaintingPause(const CPaintingPause&) = delete;
-    CPaintingPause& operator=(const CPaintingPause&) = delete;
-
-private:
-    HWND m_window;
-};
 } // namespace
 
 int XMultiLang::LoadResourceHeader(int id, const wchar_t* type)
