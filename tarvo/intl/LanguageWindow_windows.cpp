@@ -202,5 +202,7 @@ void CLanguageWindow::ChangeLanguage()
     if (!IsOpen(this))
         return;
     ChangeTextFont();
+    // Group boxes and tabs leave what a shorter text uncovers to the window below them.
+    m_pWindow->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
     ISkinFunc::Instance()->OnWindowReady(m_pWindow, m_kind);
 }
