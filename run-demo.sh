@@ -1,7 +1,8 @@
 #!/bin/bash
-# run-demo.sh [--language NAME] [--out FOLDER]: opens every dialog of the demonstration host in every language,
+# run-demo.sh [--language NAME] [--out FOLDER]: opens every window of the demonstration host in every language,
 #   or in the one named, on an invisible screen, and writes a picture of each and index.html into FOLDER
-#   (default build/demo). Prints a line per dialog; exit status 1 when a window did not come up.
+#   (default build/demo). Prints a line per window, the font that each language's is mapped to, and what was left
+#   when the language of open windows was changed; exit status 1 when anything was, or a window did not come up.
 # run-demo.sh --show [--language NAME]: the same program on your display, with its language menu.
 # Languages: English Korean Japanese Chinese Russian Global. Installs what is missing from Debian's packages.
 set -uo pipefail

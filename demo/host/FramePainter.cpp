@@ -4,8 +4,6 @@
 
 namespace
 {
-constexpr int kStoreys = 3;
-constexpr int kBays = 2;
 constexpr COLORREF kGridColour = RGB(222, 228, 236);
 constexpr COLORREF kMemberColour = RGB(31, 95, 168);
 constexpr COLORREF kSupportColour = RGB(96, 104, 112);
@@ -30,17 +28,20 @@ private:
 class CFrame
 {
 public:
-    explicit CFrame(const CRect& area)
+    CFrame(const CRect& area, int bays, int storeys) : m_bays(bays), m_storeys(storeys)
     {
-        m_bay = std::min(area.Width() * 3 / 10, area.Height() * 2 / 5);
-        m_storey = area.Height() / 4;
-        m_left = area.left + (area.Width() - kBays * m_bay) / 2 + m_bay / 10;
+        m_bay = std::min(area.Width() * 6 / 10 / bays, area.Height() * 4 / 5 / std::min(bays, storeys));
+        m_storey = area.Height() * 3 / 4 / storeys;
+        m_left = area.left + (area.Width() - bays * m_bay) / 2 + m_bay / 10;
         m_bottom = area.bottom - area.Height() / 9;
     }
     CPoint At(int column, int level) const { return {m_left + column * m_bay, m_bottom - level * m_storey}; }
-    int Bay() const { return m_bay; }
+    int Bays() const { return m_bays; }
+    int Storeys() const { return m_storeys; }
 
 private:
+    int m_bays;
+    int m_storeys;
     int m_bay;
     int m_storey;
     int m_left;
@@ -68,17 +69,17 @@ void paint_members(CDC& dc, const CFrame& frame)
 {
     CPen pen(PS_SOLID, 5, kMemberColour);
     const CSelected selected(dc, pen.m_hObject);
-    for (int column = 0; column <= kBays; ++column)
-        line(dc, frame.At(column, 0), frame.At(column, kStoreys));
-    for (int level = 1; level <= kStoreys; ++level)
-        line(dc, frame.At(0, level), frame.At(kBays, level));
+    for (int column = 0; column <= frame.Bays(); ++column)
+        line(dc, frame.At(column, 0), frame.At(column, frame.Storeys()));
+    for (int level = 1; level <= frame.Storeys(); ++level)
+        line(dc, frame.At(0, level), frame.At(frame.Bays(), level));
 }
 
 void paint_supports(CDC& dc, const CFrame& frame)
 {
     CPen pen(PS_SOLID, 2, kSupportColour);
     const CSelected selected(dc, pen.m_hObject);
-    for (int column = 0; column <= kBays; ++column)
+    for (int column = 0; column <= frame.Bays(); ++column)
     {
         const CPoint foot = frame.At(column, 0);
         line(dc, {foot.x - 16, foot.y + 3}, {foot.x + 17, foot.y + 3});
@@ -104,14 +105,14 @@ void paint_loads(CDC& dc, const CFrame& frame)
     const CSelected selectedPen(dc, pen.m_hObject);
     const CSelected selectedBrush(dc, brush.m_hObject);
     constexpr int arrowsPerBay = 7;
-    for (int level = 1; level <= kStoreys; ++level)
+    for (int level = 1; level <= frame.Storeys(); ++level)
     {
         const CPoint left = frame.At(0, level);
-        const CPoint right = frame.At(kBays, level);
+        const CPoint right = frame.At(frame.Bays(), level);
         line(dc, {left.x, left.y - 26}, {right.x, right.y - 26});
-        for (int i = 0; i <= kBays * arrowsPerBay; ++i)
+        for (int i = 0; i <= frame.Bays() * arrowsPerBay; ++i)
         {
-            const int x = left.x + i * (right.x - left.x) / (kBays * arrowsPerBay);
+            const int x = left.x + i * (right.x - left.x) / (frame.Bays() * arrowsPerBay);
             paint_arrow(dc, {x, left.y - 26}, {x, left.y - 4});
         }
         paint_arrow(dc, {left.x - 52, left.y}, {left.x - 6, left.y});
@@ -127,9 +128,9 @@ void paint_node_numbers(CDC& dc, const CFrame& frame)
     CBrush brush(RGB(255, 255, 255));
     const CSelected selectedPen(dc, pen.m_hObject);
     const CSelected selectedBrush(dc, brush.m_hObject);
-    for (int level = 0; level <= kStoreys; ++level)
+    for (int level = 0; level <= frame.Storeys(); ++level)
     {
-        for (int column = 0; column <= kBays; ++column)
+        for (int column = 0; column <= frame.Bays(); ++column)
         {
             const CPoint node = frame.At(column, level);
             const CRect dot(node.x - 5, node.y - 5, node.x + 6, node.y + 6);
@@ -147,7 +148,7 @@ void paint_frame(CDC& dc, const CRect& area, const FrameView& view)
     dc.FillSolidRect(&area, RGB(250, 251, 253));
     if (view.grid)
         paint_grid(dc, area);
-    const CFrame frame(area);
+    const CFrame frame(area, view.bays, view.storeys);
     paint_loads(dc, frame);
     paint_supports(dc, frame);
     paint_members(dc, frame);

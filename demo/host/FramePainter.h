@@ -6,11 +6,8 @@ struct FrameView
 {
     bool grid;
     bool nodeNumbers;
+    int bays;
+    int storeys;
 };
-
-/// The model's size, for the status line.
-inline constexpr int kNodeCount = 12;
-inline constexpr int kMemberCount = 15;
-inline constexpr int kLoadCaseCount = 7;
 
 void paint_frame(CDC& dc, const CRect& area, const FrameView& view);

@@ -105,7 +105,44 @@ std::string cell(const WindowReport& report)
         result += "<div class=\"failed\">cut off: " + escaped(text) + "</div>";
     return result + "</td>";
 }
+
+std::string picture(const std::wstring& file, const std::string& title)
+{
+    const std::string name = escaped(file);
+    return "<div>" + title + "</div><a href=\"" + name + "\"><img src=\"" + name + "\" alt=\"" + title +
+           "\"></a>";
+}
+
+std::string change_cell(const LanguageReport& report)
+{
+    if (!report.opened)
+        return "<td class=\"failed\">did not come up</td>";
+    std::string cell = "<td>" + picture(report.before, "before: " + escaped(kLanguages[report.former].name)) +
+                       picture(report.after, "after: " + escaped(kLanguages[report.language].name)) +
+                       "<div class=\"counts\">" + badge("t", report.changed, "changed") +
+                       badge("m", static_cast<int>(report.left.size()), "left") + "of " +
+                       std::to_string(report.controls) + " controls</div>";
+    for (const std::wstring& text : report.left)
+        cell += "<div class=\"failed\">" + escaped(text) + "</div>";
+    return cell + "<div>" + escaped(report.font) + " &rarr; " + escaped(report.mapped) + "</div></td>";
+}
 } // namespace
+
+std::vector<std::wstring> language_lines(const LanguageReport& report)
+{
+    const std::wstring language = kLanguages[report.language].name;
+    const std::wstring indent = language + std::wstring(10 - language.size(), L' ');
+    if (!report.opened)
+        return {indent + L"the windows to switch did not come up"};
+    std::vector<std::wstring> lines{
+        indent + L"font of texts          " + report.font + L" is " + report.mapped,
+        indent + L"switched from " + kLanguages[report.former].name + L": " +
+            std::to_wstring(report.controls) + L" controls, " + std::to_wstring(report.changed) +
+            L" texts changed, " + std::to_wstring(report.left.size()) + L" left"};
+    for (const std::wstring& text : report.left)
+        lines.push_back(L"          left: " + text);
+    return lines;
+}
 
 std::string to_utf8(const std::wstring& text)
 {
@@ -129,7 +166,7 @@ std::wstring report_line(const WindowReport& report)
     return line;
 }
 
-std::string index_page(const std::vector<WindowReport>& reports)
+std::string index_page(const std::vector<WindowReport>& reports, const std::vector<LanguageReport>& changes)
 {
     const std::vector<std::wstring> windows = distinct(reports, &WindowReport::window);
     const std::vector<int> languages = distinct(reports, &WindowReport::language);
@@ -162,5 +199,9 @@ std::string index_page(const std::vector<WindowReport>& reports)
         }
         page += "</tr>\n";
     }
-    return page + kFoot;
+    if (!changes.empty())
+        page += "<tr><th>All open windows, when the language changes</th>\n";
+    for (const LanguageReport& change : changes)
+        page += change_cell(change) + "\n";
+    return page + (changes.empty() ? "" : "</tr>\n") + kFoot;
 }

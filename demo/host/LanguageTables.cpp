@@ -1,7 +1,6 @@
 #include "demo/host/LanguageTables.h"
 
 #include "demo/common/ModuleText.h"
-#include "demo/host/Languages.h"
 #include "tarvo/lang/INIResourceManager.h"
 
 void register_language_tables(const std::vector<DemoModule>& modules)
@@ -12,23 +11,6 @@ void register_language_tables(const std::vector<DemoModule>& modules)
         table->LoadResourceHeaderByDLL(module.headerResource, kHeaderType, module.instance);
         INIResourceManager::AppendMap(project_name(module.instance), table);
     }
-}
-
-int load_language(const std::vector<DemoModule>& modules, int language)
-{
-    const CString folder = program_folder();
-    int loaded = 0;
-    for (const DemoModule& module : modules)
-    {
-        const CString project = project_name(module.instance);
-        XMultiLang* table = INIResourceManager::GetXMultiLang(project);
-        // 8-bit files do not name their code page before they are read.
-        table->GetXIni().SetCodePage(kLanguages.at(static_cast<std::size_t>(language)).codePage);
-        table->GetSecondaryXIni().SetCodePage(kLanguages.at(kGlobal).codePage);
-        loaded +=
-            table->Create(language_file(folder, project, language), language_file(folder, project, kGlobal));
-    }
-    return loaded;
 }
 
 CString program_folder()

@@ -7,9 +7,5 @@
 /// at the start of the program.
 void register_language_tables(const std::vector<DemoModule>& modules);
 
-/// Loads one language into every registered table, with Global for what it lacks. Windows that are open keep
-/// their texts. The number of tables that found a file.
-int load_language(const std::vector<DemoModule>& modules, int language);
-
 /// The folder of the program's file, without a backslash at its end.
 CString program_folder();

@@ -1,17 +1,23 @@
 #include "demo/host/MainWindow.h"
 
 #include "demo/common/ModuleText.h"
-#include "demo/host/FramePainter.h"
-#include "demo/host/LanguageTables.h"
+#include "demo/host/AnalysisControl.h"
+#include "demo/host/Calculation.h"
+#include "demo/host/StructureWizard.h"
+#include "demo/host/TextCount.h"
 #include "demo/host/resource.h"
+#include "tarvo/intl/LanguageSwitch.h"
 #include "tarvo/lang/INIResourceManager.h"
+#include "tarvo/msg/MSGFunction.h"
 
-#include <string>
+#include <algorithm>
 #include <utility>
 
 namespace
 {
 constexpr int kStatusHeight = 24;
+constexpr int kPaneHeight = 200;
+constexpr UINT kPictureId = AFX_IDW_PANE_FIRST + 1;
 
 struct CommandDialog
 {
@@ -22,42 +28,10 @@ constexpr CommandDialog kCommandDialogs[] = {
     {ID_MODEL_SETTINGS, L"IDD_PROJECT_SETTINGS"}, {ID_MODEL_UNITS, L"IDD_UNITS"},
     {ID_MODEL_SECTIONS, L"IDD_SECTION_LIBRARY"},  {ID_MODEL_MEMBERS, L"IDD_MEMBER_PROPERTIES"},
     {ID_ANALYSIS_LOADS, L"IDD_LOAD_CASES"},       {ID_HELP_ABOUT, L"IDD_ABOUT"}};
-
-/// Where the translations of a menu that still has the resource's texts will come from, at any depth.
-void count_menu_texts(XMultiLang& table, HMENU menu, CTranslateCount& count)
-{
-    for (int position = 0; position < ::GetMenuItemCount(menu); ++position)
-    {
-        wchar_t text[256] = L"";
-        MENUITEMINFOW item{};
-        item.cbSize = sizeof item;
-        item.fMask = MIIM_ID | MIIM_STRING | MIIM_SUBMENU;
-        item.dwTypeData = text;
-        item.cch = 256;
-        ::GetMenuItemInfoW(menu, static_cast<UINT>(position), TRUE, &item);
-        // The languages stand under their own names whatever the language is.
-        if (text[0] == 0 || (item.wID >= ID_LANGUAGE_FIRST && item.wID <= ID_LANGUAGE_LAST))
-            continue;
-        const CString key =
-            table.GetResourceHeader().FindFirst(CResourceHeader::Menu, std::to_wstring(item.wID).c_str());
-        CString translated;
-        if (!table.GetXIni().GetStr(L"MENUSTR", key, L"").IsEmpty())
-            ++count.nTranslated;
-        else if (table.FindMenuText(item.wID, item.hSubMenu != nullptr, text, translated))
-            ++count.nFallback;
-        else
-            ++count.nMissing;
-        if (item.hSubMenu)
-            count_menu_texts(table, item.hSubMenu, count);
-    }
-}
 } // namespace
 
-BEGIN_MESSAGE_MAP(CMainWindow, CWnd)
+BEGIN_MESSAGE_MAP(CMainWindow, CFrameWnd)
 ON_WM_PAINT()
-ON_WM_ERASEBKGND()
-ON_WM_SIZE()
-ON_WM_CLOSE()
 ON_WM_ENTERIDLE()
 ON_COMMAND_RANGE(ID_MODEL_SETTINGS, ID_MODEL_MEMBERS, &CMainWindow::OnOpenDialog)
 ON_COMMAND_RANGE(ID_ANALYSIS_LOADS, ID_ANALYSIS_LOADS, &CMainWindow::OnOpenDialog)
@@ -66,61 +40,105 @@ ON_COMMAND_RANGE(ID_LANGUAGE_FIRST, ID_LANGUAGE_LAST, &CMainWindow::OnLanguage)
 ON_COMMAND_RANGE(ID_VIEW_GRID, ID_VIEW_NODES, &CMainWindow::OnViewOption)
 ON_COMMAND(ID_VIEW_EXTENTS, &CMainWindow::OnViewExtents)
 ON_COMMAND(ID_FILE_EXIT, &CMainWindow::OnFileExit)
+ON_COMMAND(ID_MODEL_WIZARD, &CMainWindow::OnWizard)
+ON_COMMAND(ID_MODEL_TOOL, &CMainWindow::OnTool)
+ON_COMMAND(ID_ANALYSIS_CONTROL, &CMainWindow::OnAnalysisControl)
+ON_COMMAND(ID_ANALYSIS_LIMITS, &CMainWindow::OnLimits)
+ON_COMMAND(ID_ANALYSIS_CHECK, &CMainWindow::OnCheckModel)
+ON_COMMAND(ID_ANALYSIS_RUN, &CMainWindow::OnRunAnalysis)
 END_MESSAGE_MAP()
 
 CMainWindow::CMainWindow(std::vector<DemoModule> modules, int language)
     : m_modules(std::move(modules)), m_language(language)
 {
+    m_bAutoMenuEnable = FALSE; // the resource says which items have nothing to do
 }
-
-CMainWindow::~CMainWindow() { DestroyWindow(); }
 
 BOOL CMainWindow::Open()
 {
+    CLanguageSwitch::SwitchTo(m_language);
     const LPCTSTR windowClass =
         AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW), nullptr,
                             AfxGetApp()->LoadIcon(IDI_FRAME));
-    const CRect place(40, 40, 40 + 720, 40 + 520);
-    if (!CreateEx(0, windowClass, L"TarvoDemo", WS_OVERLAPPEDWINDOW, place, nullptr, 0))
+    const CRect place(20, 20, 20 + 900, 20 + 690);
+    if (!Create(windowClass, L"TarvoDemo", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, place, nullptr,
+                MAKEINTRESOURCEW(IDR_MAINFRAME)))
         return FALSE;
-    SetLanguage(m_language);
+    SetActiveView(m_form, FALSE);
+    SendMessageToDescendants(WM_INITIALUPDATE, 0, 0, TRUE, TRUE);
+    CheckMenu();
+    CLanguageSwitch::FollowMenu(m_hWnd, project_name(AfxGetInstanceHandle()));
+    ShowLanguage();
     return TRUE;
+}
+
+BOOL CMainWindow::OnCreateClient(LPCREATESTRUCT, CCreateContext*)
+{
+    m_form = new CModelForm(m_model);
+    if (!m_form->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, AFX_IDW_PANE_FIRST))
+        return FALSE;
+    CRect place;
+    m_form->GetWindowRect(&place);
+    m_formSize = place.Size();
+    const auto view = [this] { return FrameView{m_bGrid, m_bNodes, m_model.bays, m_model.storeys}; };
+    if (!m_picture.Open(this, kPictureId, view) || !m_pane.Open(this))
+        return FALSE;
+    m_pane.ShowWindow(SW_SHOW);
+    return TRUE;
+}
+
+CRect CMainWindow::StatusPlace() const
+{
+    CRect place;
+    GetClientRect(&place);
+    place.top = std::max(place.top, place.bottom - kStatusHeight);
+    return place;
+}
+
+void CMainWindow::RecalcLayout(BOOL)
+{
+    if (!m_pane.m_hWnd || IsIconic())
+        return;
+    CRect room;
+    GetClientRect(&room);
+    room.bottom = std::max(room.top, StatusPlace().top);
+    const int split = std::max(room.top, room.bottom - kPaneHeight);
+    m_pane.MoveWindow(CRect(room.left, split, room.right, room.bottom));
+    const int column = std::min<int>(room.left + m_formSize.cx, room.right);
+    m_form->MoveWindow(CRect(room.left, room.top, column, split));
+    m_picture.MoveWindow(CRect(column, room.top, room.right, split));
 }
 
 void CMainWindow::SetLanguage(int language)
 {
     m_language = language;
-    load_language(m_modules, language);
+    CLanguageSwitch::SwitchTo(language);
+    ShowLanguage();
+}
+
+/// What is no window's of the library: caption, status line, the mark at the language in force.
+void CMainWindow::ShowLanguage()
+{
     const HINSTANCE host = AfxGetInstanceHandle();
     CString caption;
     caption.Format(MODULE_TEXT(host, IDS_CAPTION),
                    static_cast<const wchar_t*>(MODULE_TEXT(host, IDS_SAMPLE_PROJECT)));
     SetWindowText(caption);
     m_font.DeleteObject();
-    XMultiLang* table = INIResourceManager::GetXMultiLang(project_name(host));
-    m_font.CreatePointFont(90, table->GetXIni().GetStr(L"GENERAL", L"FONT", L"MS Shell Dlg"));
-    BuildMenu();
-    Invalidate();
+    m_font.CreatePointFont(90, CMSGFunction::GetFont());
+    m_count = count_menu_texts(IDR_MAINFRAME);
+    CheckMenu();
+    m_pane.Arrange();
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
-void CMainWindow::BuildMenu()
+void CMainWindow::CheckMenu()
 {
-    const HMENU before = ::GetMenu(m_hWnd);
-    CMenu menu;
-    if (!menu.LoadMenu(IDR_MAINFRAME))
-        return;
-    XMultiLang* table = INIResourceManager::GetXMultiLang(project_name(AfxGetInstanceHandle()));
-    m_count = {};
-    count_menu_texts(*table, menu.m_hMenu, m_count);
-    table->TranslateMenuStringSub(menu.m_hMenu);
-    menu.CheckMenuItem(ID_VIEW_GRID, m_bGrid ? MF_CHECKED : MF_UNCHECKED);
-    menu.CheckMenuItem(ID_VIEW_NODES, m_bNodes ? MF_CHECKED : MF_UNCHECKED);
-    menu.CheckMenuRadioItem(ID_LANGUAGE_FIRST, ID_LANGUAGE_LAST,
-                            ID_LANGUAGE_FIRST + static_cast<UINT>(m_language), MF_BYCOMMAND);
-    SetMenu(&menu);
-    menu.Detach(); // the window's from now on
-    if (before)
-        ::DestroyMenu(before);
+    const HMENU menu = ::GetMenu(m_hWnd);
+    ::CheckMenuItem(menu, ID_VIEW_GRID, m_bGrid ? MF_CHECKED : MF_UNCHECKED);
+    ::CheckMenuItem(menu, ID_VIEW_NODES, m_bNodes ? MF_CHECKED : MF_UNCHECKED);
+    ::CheckMenuRadioItem(menu, ID_LANGUAGE_FIRST, ID_LANGUAGE_LAST,
+                         ID_LANGUAGE_FIRST + static_cast<UINT>(m_language), MF_BYCOMMAND);
 }
 
 void CMainWindow::ShowPopup(int position, void (*shown)(void* context), void* context)
@@ -133,7 +151,13 @@ void CMainWindow::ShowPopup(int position, void (*shown)(void* context), void* co
     ::HiliteMenuItem(m_hWnd, bar, static_cast<UINT>(position), MF_BYPOSITION | MF_HILITE);
     CMenu::FromHandle(bar)->GetSubMenu(position)->TrackPopupMenu(TPM_LEFTALIGN | TPM_TOPALIGN, item.left,
                                                                  item.bottom, this);
-    ::HiliteMenuItem(m_hWnd, bar, static_cast<UINT>(position), MF_BYPOSITION | MF_UNHILITE);
+    // By the item's state: not every system's HiliteMenuItem takes the mark away.
+    MENUITEMINFOW state{};
+    state.cbSize = sizeof state;
+    state.fMask = MIIM_STATE;
+    state.fState = MFS_ENABLED | MFS_UNHILITE;
+    ::SetMenuItemInfoW(bar, static_cast<UINT>(position), TRUE, &state);
+    DrawMenuBar();
     m_pfnShown = nullptr;
 }
 
@@ -148,36 +172,18 @@ void CMainWindow::OnEnterIdle(UINT why, CWnd*)
 void CMainWindow::OnPaint()
 {
     CPaintDC dc(this);
-    CRect client;
-    GetClientRect(&client);
-    CRect model = client;
-    model.bottom -= kStatusHeight;
     CFont* before = dc.SelectObject(&m_font);
-    paint_frame(dc, model, {m_bGrid, m_bNodes});
-
-    CRect status(client.left, model.bottom, client.right, client.bottom);
+    CRect status = StatusPlace();
     dc.FillSolidRect(&status, ::GetSysColor(COLOR_BTNFACE));
     CString text;
-    text.Format(MODULE_TEXT(AfxGetInstanceHandle(), IDS_STATUS), kNodeCount, kMemberCount, kLoadCaseCount);
+    text.Format(MODULE_TEXT(AfxGetInstanceHandle(), IDS_STATUS), m_model.Nodes(), m_model.Members(),
+                kLoadCaseCount);
     status.left += 10;
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(::GetSysColor(COLOR_BTNTEXT));
     dc.DrawText(text, &status, DT_LEFT | DT_VCENTER | DT_SINGLELINE);
     dc.SelectObject(before);
 }
-
-BOOL CMainWindow::OnEraseBkgnd(CDC*)
-{
-    return TRUE; // OnPaint covers all of it
-}
-
-void CMainWindow::OnSize(UINT type, int cx, int cy)
-{
-    CWnd::OnSize(type, cx, cy);
-    Invalidate();
-}
-
-void CMainWindow::OnClose() { DestroyWindow(); }
 
 void CMainWindow::OnOpenDialog(UINT id)
 {
@@ -196,16 +202,43 @@ void CMainWindow::OnOpenDialog(UINT id)
     }
 }
 
-void CMainWindow::OnLanguage(UINT id)
-{
-    SetLanguage(static_cast<int>(id - ID_LANGUAGE_FIRST));
-    AfxGetApp()->WriteProfileInt(L"LANGUAGE", L"LANGUAGE", m_language);
-}
+void CMainWindow::OnLanguage(UINT id) { SetLanguage(static_cast<int>(id - ID_LANGUAGE_FIRST)); }
 
 void CMainWindow::OnViewOption(UINT id)
 {
     bool& option = id == ID_VIEW_GRID ? m_bGrid : m_bNodes;
     option = !option;
-    ::CheckMenuItem(::GetMenu(m_hWnd), id, option ? MF_CHECKED : MF_UNCHECKED);
+    CheckMenu();
+    m_picture.Invalidate();
+}
+
+void CMainWindow::OnWizard()
+{
+    CStructureWizard wizard(this);
+    if (wizard.DoModal() != ID_WIZFINISH)
+        return;
+    const FrameModel limits = m_model;
+    m_model = wizard.GetModel();
+    m_model.utilisationLimit = limits.utilisationLimit;
+    m_model.warnsNearLimit = limits.warnsNearLimit;
+    m_form->ShowModel();
     Invalidate();
+    m_picture.Invalidate();
+    if (wizard.RunsAnalysis())
+        run_analysis(m_model, m_form->GetAnalysis());
+}
+
+void CMainWindow::OnAnalysisControl() { CAnalysisControl(this).DoModal(); }
+void CMainWindow::OnLimits() { CLimitsDlg(m_model, this).DoModal(); }
+
+void CMainWindow::OnCheckModel()
+{
+    m_form->TakeModel();
+    check_model(m_model);
+}
+
+void CMainWindow::OnRunAnalysis()
+{
+    m_form->TakeModel();
+    run_analysis(m_model, m_form->GetAnalysis());
 }

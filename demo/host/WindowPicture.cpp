@@ -113,6 +113,18 @@ bool is_cut(HWND child, const wchar_t* className, const std::wstring& text)
     const SIZE needed = measure(child, text, room.right, DT_SINGLELINE);
     return needed.cx + button_margin(style) > room.right;
 }
+
+/// Something of a control lies where its window has no room.
+bool is_outside(HWND dialog, HWND child)
+{
+    RECT room{};
+    RECT place{};
+    GetClientRect(dialog, &room);
+    GetWindowRect(child, &place);
+    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
+    return place.left < room.left || place.top < room.top || place.right > room.right ||
+           place.bottom > room.bottom;
+}
 } // namespace
 
 std::vector<HWND> visible_windows()
@@ -151,7 +163,9 @@ std::vector<std::wstring> find_cut_texts(HWND dialog)
         const bool button = std::wcscmp(className, L"Button") == 0;
         const bool picture = label && (GetWindowLongPtrW(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON;
         const std::wstring text = text_of(child);
-        if ((label || button) && !picture && !text.empty() && is_cut(child, className, text))
+        const bool texted = (label || button) && !picture && !text.empty();
+        if ((texted && is_cut(child, className, text)) ||
+            (IsWindowVisible(child) && is_outside(dialog, child)))
             found.push_back(std::to_wstring(GetDlgCtrlID(child)) + L": " + text);
     }
     return found;

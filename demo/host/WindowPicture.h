@@ -13,6 +13,6 @@ std::vector<HWND> visible_windows();
 /// without a display. Empty when no window has a size.
 Picture take_picture(const std::vector<HWND>& windows);
 
-/// The texts of labels and buttons of the dialog that need more room than their control has, each as
-/// "id: text". Measured with the control's own font.
+/// The texts of labels and buttons of the dialog that need more room than their control has, and of controls
+/// that lie partly outside the dialog, each as "id: text". Measured with the control's own font.
 std::vector<std::wstring> find_cut_texts(HWND dialog);

@@ -1,3 +1,4 @@
+#include "demo/host/Catalogue.h"
 #include "demo/host/CommandLine.h"
 #include "demo/host/HostModule.h"
 #include "demo/host/LanguageTables.h"
@@ -38,8 +39,6 @@ public:
     BOOL InitInstance() override;
     int ExitInstance() override
     {
-        m_pMainWnd = nullptr;
-        m_window.reset();
         INIResourceManager::DeleteINIResource();
         return m_exitCode;
     }
@@ -47,7 +46,7 @@ public:
 private:
     void Start(const CommandLine& commandLine);
 
-    std::unique_ptr<CMainWindow> m_window;
+    std::unique_ptr<CMSGInfoImpl> m_messages;
     int m_exitCode = 0;
 };
 
@@ -77,6 +76,7 @@ void CDemoApp::Start(const CommandLine& commandLine)
 {
     const std::vector<DemoModule> modules{HostModule(), SectionModule()};
     register_language_tables(modules);
+    m_messages = start_messages();
     if (!commandLine.picturesFolder.empty())
     {
         std::vector<int> languages(kLanguages.size());
@@ -86,18 +86,17 @@ void CDemoApp::Start(const CommandLine& commandLine)
         m_exitCode = run_pictures(modules, commandLine.picturesFolder, languages);
         return;
     }
-    const int stored = static_cast<int>(GetProfileInt(L"LANGUAGE", L"LANGUAGE", kEnglish));
+    const int stored = IMSGInfo::Instance()->GetCurrentLang();
     const bool known = stored >= 0 && stored < static_cast<int>(kLanguages.size());
-    m_window =
-        std::make_unique<CMainWindow>(modules, commandLine.language.value_or(known ? stored : kEnglish));
-    if (!m_window->Open())
+    auto* const window = new CMainWindow(modules, commandLine.language.value_or(known ? stored : kEnglish));
+    if (!window->Open())
     {
         m_exitCode = 1;
         return;
     }
-    m_pMainWnd = m_window.get();
-    m_window->ShowWindow(m_nCmdShow);
-    m_window->UpdateWindow();
+    m_pMainWnd = window; // deletes itself
+    window->ShowWindow(m_nCmdShow);
+    window->UpdateWindow();
 }
 
 CDemoApp theApp;

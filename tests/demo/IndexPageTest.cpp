@@ -70,3 +70,47 @@ TEST(DemoIndexPage, RefersToNothingOutsideItsFolder)
 {
     EXPECT_EQ(0, count(index_page({report(L"IDD_A", 0)}), "http"));
 }
+
+namespace
+{
+LanguageReport change()
+{
+    LanguageReport result;
+    result.language = 2;
+    result.former = 1;
+    result.opened = true;
+    result.controls = 167;
+    result.changed = 120;
+    result.font = L"Meiryo UI, 9 pt";
+    result.mapped = L"Meiryo UI (Other), 14 px";
+    result.before = L"b.png";
+    result.after = L"a.png";
+    return result;
+}
+} // namespace
+
+TEST(DemoReport, ChangeOfLanguageIsTwoLinesAndOneForEachControlThatIsLeft)
+{
+    LanguageReport report = change();
+    report.left = {L"IDD_A/7 shows \"x\", not \"y\""};
+    EXPECT_EQ((std::vector<std::wstring>{
+                  L"Japanese  font of texts          Meiryo UI, 9 pt is Meiryo UI (Other), 14 px",
+                  L"Japanese  switched from Korean: 167 controls, 120 texts changed, 1 left",
+                  L"          left: IDD_A/7 shows \"x\", not \"y\""}),
+              language_lines(report));
+    report.opened = false;
+    EXPECT_EQ((std::vector<std::wstring>{L"Japanese  the windows to switch did not come up"}),
+              language_lines(report));
+}
+
+TEST(DemoIndexPage, ShowsAllWindowsBeforeAndAfterTheLanguageChanged)
+{
+    LanguageReport report = change();
+    report.left = {L"IDD_A/7 <left>"};
+    const std::string page = index_page({::report(L"IDD_A", 2)}, {report});
+    EXPECT_EQ(3, count(page, "<img "));
+    EXPECT_THAT(page, HasSubstr("before: Korean"));
+    EXPECT_THAT(page, HasSubstr("after: Japanese"));
+    EXPECT_THAT(page, HasSubstr("IDD_A/7 &lt;left&gt;"));
+    EXPECT_THAT(page, HasSubstr("Meiryo UI, 9 pt &rarr; Meiryo UI (Other), 14 px"));
+}

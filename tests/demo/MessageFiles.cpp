@@ -97,6 +97,7 @@ Texts load_script()
     static const std::wregex controlLine(L"^\\s.*?\"([^\"]+)\", (ID\\w*).*");
     const auto bytes =
         platform::file::read_whole(source_path(L"demo/host/International.rc").c_str(), 1 << 20);
+    static const std::wregex stringLine(L"^\\s+(IDS_\\w+) \"(.*)\"$");
     Texts texts;
     std::wstring dialog;
     std::wsmatch match;
@@ -107,6 +108,8 @@ Texts load_script()
             dialog = match[1];
         else if (std::regex_match(line, match, captionLine))
             texts[L"IDS_" + dialog + L"_" + dialog] = match[1];
+        else if (std::regex_match(line, match, stringLine))
+            texts[match[1]] = match[2]; // a sheet's caption
         else if (std::regex_match(line, match, controlLine))
             texts[L"IDS_" + dialog + L"_" + match[2].str()] = match[1];
     }
