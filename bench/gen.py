@@ -20,7 +20,7 @@ from xml.sax.saxutils import escape
 
 SEED = 42
 TEXT_BYTES = 5 * 1024 * 1024
-STAMP = "complete-2"  # change it with the contents
+STAMP = "complete-3"  # change it with the contents
 
 WORDS = ("file open save close window view edit insert format tools help print page row column table cell "
          "text font size color style border chart image link name path folder value list item select delete "
@@ -85,6 +85,83 @@ def resource_header(rng):
         lines.append(f"#define {name:<39} {number}")
         number += 1
     return "\r\n".join(lines[:66000]) + "\r\n"
+
+
+def script_dialog(number, rng, text, symbol):
+    lines = [f"{symbol('IDD_DIALOG', number)} DIALOGEX 0, 0, {rng.randint(100, 400)}, {rng.randint(100, 300)}",
+             "STYLE DS_SETFONT | DS_MODALFRAME | WS_POPUP | WS_CAPTION", f'CAPTION "{text()}"',
+             'FONT 8, "MS Shell Dlg", 400, 0, 0x1', "BEGIN"]
+    for control in range(30):
+        identifier = symbol("IDC_CONTROL", 1000 + control)
+        place = ",".join(str(rng.randint(8, 300)) for _ in range(4))
+        kind = rng.randrange(4)
+        if kind == 0:
+            lines.append(f'    LTEXT           "{text()}",IDC_STATIC,{place}')
+        elif kind == 1:
+            lines.append(f"    EDITTEXT        {identifier},{place},ES_AUTOHSCROLL | WS_GROUP")
+        elif kind == 2:
+            lines.append(f'    PUSHBUTTON      "{text()}",{identifier},{place}')
+        else:
+            lines += [f'    CONTROL         "{text()}",{identifier},"Button",BS_AUTOCHECKBOX |',
+                      f"                    WS_TABSTOP,{place}"]
+    return lines + ["END", ""]
+
+
+def script_menu(number, text, symbol):
+    lines = [f"{symbol('IDR_MENU', number)} MENU", "BEGIN"]
+    for popup in range(4):
+        lines += [f'    POPUP "{text()}"', "    BEGIN"]
+        lines += [f'        MENUITEM "{text()}", {symbol("ID_COMMAND", 10 * popup + item)}' for item in range(6)]
+        lines += ["        MENUITEM SEPARATOR", "    END"]
+    return lines + ["END", ""]
+
+
+def resource_script(scale, text, numbers=False):
+    """A script of 10 * scale dialogs, scale menus and 300 * scale strings. With numbers alone for its symbols it is
+    one that a compiler reads without headers."""
+    rng = random.Random(SEED + 2)
+    bases = {"IDD_DIALOG": 100, "IDC_CONTROL": 0, "IDR_MENU": 30000, "ID_COMMAND": 40000, "IDS_TEXT": 0}
+
+    def symbol(kind, number):
+        return str(bases[kind] + number) if numbers else f"{kind}_{number:05d}"
+
+    lines = ["LANGUAGE 18, 1", ""]
+    for number in range(10 * scale):
+        lines += script_dialog(number, rng, text, symbol)
+    for number in range(scale):
+        lines += script_menu(number, text, symbol)
+    lines += ["STRINGTABLE", "BEGIN"]
+    lines += [f'    {symbol("IDS_TEXT", number):<24} "{text()}"' for number in range(300 * scale)]
+    script = "\r\n".join([*lines, "END", ""])
+    if numbers:
+        for name in ("IDC_STATIC", "DS_SETFONT", "DS_MODALFRAME", "WS_POPUP", "WS_CAPTION", "ES_AUTOHSCROLL",
+                     "WS_GROUP", "BS_AUTOCHECKBOX", "WS_TABSTOP"):
+            script = script.replace(name, "1")
+    return script
+
+
+def script_files(words, write):
+    """A big script in three encodings, half of it, its translation, an edited copy, and a small one."""
+    def english():
+        rng = random.Random(SEED + 3)
+        return lambda: " ".join(rng.choice(WORDS) for _ in range(rng.randint(1, 4))).capitalize()
+
+    def korean():
+        rng = random.Random(SEED + 4)
+        return lambda: phrase(rng, words, rng.randint(3, 20)).replace('"', "")
+
+    big = resource_script(200, korean())
+    write("script.utf8.rc", codecs.BOM_UTF8 + big.encode())
+    write("script.utf16.rc", codecs.BOM_UTF16_LE + big.encode("utf-16-le"))
+    write("script.cp949.rc", big.encode("cp949"))
+    write("script.half.rc", codecs.BOM_UTF8 + resource_script(100, korean()).encode())
+    edited = big.split("\r\n")
+    for at in range(50, len(edited), 100):
+        edited[at] = edited[at].replace('"', '"edited ', 1)
+    write("script.edited.rc", codecs.BOM_UTF8 + "\r\n".join(edited).encode())
+    write("script.numbers.rc", resource_script(200, english(), True).encode())
+    write("script.small.rc", codecs.BOM_UTF8 + resource_script(5, english()).encode())
+    write("script.small.numbers.rc", resource_script(5, english(), True).encode())
 
 
 def plain_text(rng, character, codec):
@@ -186,6 +263,7 @@ def generate(folder):
     write("wide.keys.tsv", "".join(f"{section}\t{key}\n" for section, key in names).encode())
 
     write("resource.h", resource_header(rng).encode())
+    script_files(words, write)
 
     keys = message_files(random.Random(SEED + 1), words, os.path.join(folder, "messages"))
     write("messages.keys", "".join(key + "\n" for key in keys).encode())

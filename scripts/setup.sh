@@ -17,7 +17,7 @@ declare -A groups=(
   [tests]="googletest ${wine[*]}"
   [demo]="${wine[*]}"
   [bench]="libbenchmark-dev libglib2.0-dev libicu-dev icu-devtools gettext qt6-base-dev qt6-l10n-tools
-    libboost-locale-dev pkg-config googletest ${wine[*]}"
+    libboost-locale-dev pkg-config googletest llvm diffutils ${wine[*]}"
   [fuzz]="clang libclang-rt-dev llvm"
   [lint]="clang-format clang-tidy cppcheck git googletest ${wine[*]}"
   [coverage]="gcovr googletest"
