@@ -2,6 +2,7 @@
 
 #include "platform/codepage.h"
 #include "platform/codepage_block.h"
+#include "tarvo/text/UnitBlock.h"
 #include "tarvo/text/Units.h"
 
 #include <algorithm>
@@ -90,7 +91,38 @@ bool DecodePiece(std::string_view& bytes, std::size_t length, char16_t*& out)
     return at >= length;
 }
 
-std::size_t DecodeUtf8(std::string_view& bytes, char16_t* out)
+/// Bytes at the end of \p bytes that begin a character whose rest is not there.
+std::size_t CutTail(std::string_view bytes)
+{
+    for (std::size_t back = 1; back <= 2 && back <= bytes.size(); ++back)
+    {
+        const int ones = std::countl_one(First(bytes)[bytes.size() - back]);
+        if (ones == 2 || ones == 3)
+            return static_cast<std::size_t>(ones) > back ? back : 0;
+        if (ones != 1)
+            return 0;
+    }
+    return 0;
+}
+
+bool MayDiffer(char16_t unit) { return (unit >= 0xD800 && unit <= 0xDFFF) || unit == 0xFFFD; }
+
+/// Both decoders give the same units unless the text is malformed, which the system's one answers with
+/// U+FFFD, or holds characters of four bytes, which become surrogates there.
+bool MayDiffer(const char16_t* units, std::size_t count)
+{
+    std::size_t i = 0;
+    for (; i + CUnitBlock::kCount <= count; i += CUnitBlock::kCount)
+    {
+        // One question rules most blocks out.
+        const CUnitBlock block(units + i);
+        if (block.Between(0xD800, 0xFFFD) != 0 && (block.Between(0xD800, 0xDFFF) | block.Equal(0xFFFD)) != 0)
+            return true;
+    }
+    return std::any_of(units + i, units + count, [](char16_t unit) { return MayDiffer(unit); });
+}
+
+std::size_t DecodeUtf8Slowly(std::string_view& bytes, char16_t* out)
 {
     char16_t* const begin = out;
     for (bool isWhole = true; isWhole && !bytes.empty();)
@@ -105,6 +137,33 @@ std::size_t DecodeUtf8(std::string_view& bytes, char16_t* out)
             isWhole = DecodePiece(bytes, length, out);
     }
     return static_cast<std::size_t>(out - begin);
+}
+
+/// In pieces that stay in the cache, each by the system's rules where they come to the same, which is many
+/// characters in a step.
+std::size_t DecodeUtf8(std::string_view& bytes, char16_t* out)
+{
+    constexpr std::size_t kPiece = 8192;
+    char16_t* const begin = out;
+    for (;;)
+    {
+        std::string_view piece = bytes.substr(0, kPiece);
+        const std::size_t whole = piece.size() - CutTail(piece);
+        const auto count = platform::codepage::decode(platform::codepage::utf8, piece.substr(0, whole), out);
+        if (count && !MayDiffer(out, *count))
+        {
+            out += *count;
+            bytes.remove_prefix(whole);
+        }
+        else
+        {
+            out += DecodeUtf8Slowly(piece, out);
+            bytes.remove_prefix(std::min(kPiece, bytes.size()) - piece.size());
+        }
+        if (bytes.size() <= 2)
+            break;
+    }
+    return static_cast<std::size_t>(out - begin) + DecodeUtf8Slowly(bytes, out);
 }
 
 /// How far before a line break a byte can stand that takes the break for a part of its character.

@@ -10,23 +10,23 @@ namespace
 {
 namespace codepage = platform::codepage;
 
-void Append(CString& line, const char16_t* units, std::size_t count)
+// Fill a line run by run; the first one finds the line's old text and writes over it.
+
+void Put(CString& line, int length, const char16_t* run, std::size_t count)
 {
-    if (count == 0)
-        return;
-    const int length = line.GetLength();
-    std::copy_n(units, count, line.GetBufferSetLength(length + static_cast<int>(count)) + length);
+    // A line that its reader kept shares its characters: memory for the new one is had without copying them.
+    if (length == 0)
+        line.Empty();
+    if (count != 0)
+        units::widen(run, count, line.GetBufferSetLength(length + static_cast<int>(count)) + length);
 }
 
-void Append(std::wstring& line, const char16_t* units, std::size_t count)
+void Put(std::wstring& line, int length, const char16_t* run, std::size_t count)
 {
-    const std::size_t length = line.size();
-    line.resize(length + count);
-    std::copy_n(units, count, line.begin() + static_cast<std::ptrdiff_t>(length));
+    const auto before = static_cast<std::size_t>(length);
+    line.resize(before + count);
+    units::widen(run, count, line.data() + before);
 }
-
-void Clear(CString& line) { line.Empty(); }
-void Clear(std::wstring& line) { line.clear(); }
 
 // No page gives more units than bytes.
 template <class Line>
@@ -37,7 +37,7 @@ void Decode(std::string_view bytes, Line& line)
     char16_t* units = few;
     if (bytes.size() > std::size(few))
         units = (many = std::make_unique_for_overwrite<char16_t[]>(bytes.size())).get();
-    Append(line, units, codepage::decode(codepage::ansi, bytes, units).value_or(0));
+    Put(line, 0, units, codepage::decode(codepage::ansi, bytes, units).value_or(0));
 }
 
 const char* FindBreak(const char* first, const char* last)
@@ -102,19 +102,23 @@ void CTextFileBase::Close()
 // positioned back, a pipe, loses nothing either.
 void CTextFileBase::DetectEncoding()
 {
-    std::size_t count = Read(*m_pFile, m_bytes, 2);
-    if (std::string_view(m_bytes, count) == "\xEF\xBB")
-        count += Read(*m_pFile, m_bytes + 2, 1);
-    const CTextMark mark = FindTextMark(std::string_view(m_bytes, count));
+    m_bytes = std::make_unique_for_overwrite<char[]>(kMostCut + kBuffer);
+    char* const bytes = m_bytes.get();
+    std::size_t count = Read(*m_pFile, bytes, 2);
+    if (std::string_view(bytes, count) == "\xEF\xBB")
+        count += Read(*m_pFile, bytes + 2, 1);
+    const CTextMark mark = FindTextMark(std::string_view(bytes, count));
     m_encoding = mark.encoding;
-    m_bytesAhead = {m_bytes + mark.length, m_bytes + count};
+    m_bytesAhead = {bytes + mark.length, bytes + count};
+    if (m_encoding != TextEncoding::Ansi)
+        m_units = std::make_unique_for_overwrite<char16_t[]>(kMostCut + kBuffer);
 }
 
 // Reads bytes behind the first \p kept of the buffer. False, and the flag is set, when there are none.
 bool CTextFileBase::Refill(std::size_t kept)
 {
-    const UINT count = Read(*m_pFile, m_bytes + kept, kBuffer);
-    m_bytesAhead = {m_bytes, m_bytes + kept + count};
+    const UINT count = Read(*m_pFile, m_bytes.get() + kept, kBuffer);
+    m_bytesAhead = {m_bytes.get(), m_bytes.get() + kept + count};
     m_bEndOfFile = count == 0;
     return count != 0;
 }
@@ -131,28 +135,42 @@ bool CTextFileBase::Provide(Window<char16_t>& ahead)
         if (m_bEndOfFile)
             return false;
         const std::size_t kept = m_bytesAhead.Size();
-        std::copy(m_bytesAhead.at, m_bytesAhead.end, m_bytes);
+        std::copy(m_bytesAhead.at, m_bytesAhead.end, m_bytes.get());
         if (!Refill(kept))
             return false;
         std::string_view bytes(m_bytesAhead.at, m_bytesAhead.Size());
-        ahead = {m_units, m_units + DecodeTextPart(m_encoding, bytes, m_units)};
+        ahead = {m_units.get(), m_units.get() + DecodeTextPart(m_encoding, bytes, m_units.get())};
         m_bytesAhead.at = m_bytesAhead.end - bytes.size();
     }
     return true;
 }
 
-// Passes over what the line before left of its break, then gives the line away in runs.
-template <class Unit, class Give>
-bool CTextFileBase::ReadRuns(Window<Unit>& ahead, Give give)
+// Passes over what the line before left of its break. False at the end.
+template <class Unit>
+bool CTextFileBase::PassOverBreak(Window<Unit>& ahead)
 {
-    for (const char lineBreak : {'\r', '\n'})
+    constexpr auto cr = static_cast<Unit>('\r');
+    constexpr auto lf = static_cast<Unit>('\n');
+    if (ahead.Size() > 2)
+    {
+        ahead.at += *ahead.at == cr ? 1 : 0;
+        ahead.at += *ahead.at == lf ? 1 : 0;
+        return true;
+    }
+    for (const Unit lineBreak : {cr, lf})
     {
         if (!Provide(ahead))
             return false;
-        if (*ahead.at == static_cast<Unit>(lineBreak))
-            ++ahead.at;
+        ahead.at += *ahead.at == lineBreak ? 1 : 0;
     }
-    if (!Provide(ahead))
+    return Provide(ahead);
+}
+
+// Gives the next line away in runs.
+template <class Unit, class Give>
+bool CTextFileBase::ReadRuns(Window<Unit>& ahead, Give give)
+{
+    if (!PassOverBreak(ahead))
         return false;
     do
     {
@@ -166,11 +184,17 @@ bool CTextFileBase::ReadRuns(Window<Unit>& ahead, Give give)
 template <class Line>
 bool CTextFileBase::ReadLineInto(Line& line)
 {
-    Clear(line);
     if (m_encoding != TextEncoding::Ansi)
-        return ReadRuns(m_unitsAhead,
-                        [&](const char16_t* run, std::size_t count) { Append(line, run, count); });
-
+    {
+        int length = 0;
+        const bool found = ReadRuns(m_unitsAhead, [&](const char16_t* run, std::size_t count) {
+            Put(line, length, run, count);
+            length += static_cast<int>(count);
+        });
+        if (!found)
+            Put(line, 0, nullptr, 0);
+        return found;
+    }
     // Decoded whole: a double-byte character may stand across two runs.
     m_ansiLine.clear();
     const bool found =

@@ -44,8 +44,8 @@ protected:
     explicit CTextFileBase(std::unique_ptr<CFile> pFile);
 
 private:
-    static constexpr std::size_t kBuffer = 1024;
-    static constexpr std::size_t kMostCut = 2; // bytes of a character whose rest is still to be read
+    static constexpr std::size_t kBuffer = 16384; // a call of the system for each of these
+    static constexpr std::size_t kMostCut = 2;   // bytes of a character whose rest is still to be read
 
     // What is still to be given of a buffer.
     template <class Unit>
@@ -59,6 +59,8 @@ private:
 
     template <class Line>
     bool ReadLineInto(Line& line);
+    template <class Unit>
+    bool PassOverBreak(Window<Unit>& ahead);
     template <class Unit, class Give>
     bool ReadRuns(Window<Unit>& ahead, Give give);
     bool Provide(Window<char>& ahead);
@@ -71,11 +73,11 @@ private:
     bool m_bOwnFile;
     bool m_bEndOfFile = false;
     // The bytes last read, behind those of a cut character. In ANSI they are the text, else decoded at once.
-    char m_bytes[kMostCut + kBuffer];
-    Window<char> m_bytesAhead = {m_bytes, m_bytes};
+    std::unique_ptr<char[]> m_bytes;
+    Window<char> m_bytesAhead = {};
     std::string m_ansiLine;
-    char16_t m_units[kMostCut + kBuffer];
-    Window<char16_t> m_unitsAhead = {m_units, m_units};
+    std::unique_ptr<char16_t[]> m_units;
+    Window<char16_t> m_unitsAhead = {};
 };
 
 /// A text file opened by name, for reading; others may read it meanwhile, but not write. A file that cannot

@@ -223,6 +223,8 @@ CString to_string(view text)
     return result;
 }
 
+void widen(const char16_t* text, std::size_t count, wchar_t* out) { copy_units(text, count, out); }
+
 void narrow(const wchar_t* text, std::size_t count, char16_t* out) { copy_units(text, count, out); }
 } // namespace units
 

@@ -37,6 +37,8 @@ inline view trim(view text)
 
 /// The same units as a string of the framework.
 TARVO_API CString to_string(view text);
+/// Puts \p count units at \p out, one wide character each.
+TARVO_API void widen(const char16_t* text, std::size_t count, wchar_t* out);
 /// Puts \p count wide characters (each one unit) at \p out.
 TARVO_API void narrow(const wchar_t* text, std::size_t count, char16_t* out);
 } // namespace units
