@@ -45,7 +45,7 @@ protected:
 
 private:
     static constexpr std::size_t kBuffer = 16384; // a call of the system for each of these
-    static constexpr std::size_t kMostCut = 2;   // bytes of a character whose rest is still to be read
+    static constexpr std::size_t kMostCut = 2;    // bytes of a character whose rest is still to be read
 
     // What is still to be given of a buffer.
     template <class Unit>
