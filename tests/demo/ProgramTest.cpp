@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 namespace
 {
@@ -299,4 +300,77 @@ TEST(DemoProgram, LanguageMenuChangesTheWindowAndIsRememberedForTheNextStart)
     EXPECT_TRUE(wait_for_text(window, L"3階建て事務所ビル - TarvoDemo"));
     PostMessageW(window, WM_CLOSE, 0, 0);
     EXPECT_EQ(0u, finish(again));
+}
+
+namespace
+{
+constexpr int idSpan = 1506;
+constexpr int idHistory = 1531;
+constexpr int idAnalysis = 1532;
+
+HWND find_control(HWND window, int id)
+{
+    struct Wanted
+    {
+        int id;
+        HWND found;
+    } wanted{id, nullptr};
+    EnumChildWindows(
+        window,
+        [](HWND child, LPARAM to) -> BOOL {
+            auto& search = *reinterpret_cast<Wanted*>(to);
+            search.found = GetDlgCtrlID(child) == search.id ? child : nullptr;
+            return search.found == nullptr;
+        },
+        reinterpret_cast<LPARAM>(&wanted));
+    return wanted.found;
+}
+
+std::vector<std::wstring> lines_of(HWND list)
+{
+    std::vector<std::wstring> lines;
+    const LRESULT count = SendMessageW(list, LB_GETCOUNT, 0, 0);
+    for (WPARAM i = 0; static_cast<LRESULT>(i) < count; ++i)
+    {
+        wchar_t text[512] = L"";
+        SendMessageW(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(text));
+        lines.emplace_back(text);
+    }
+    return lines;
+}
+} // namespace
+
+TEST(DemoProgram, AnalysisWritesItsMessagesToThePaneAndEntriesOutliveAChangeOfLanguage)
+{
+    constexpr WPARAM idRun = 2023;
+    constexpr WPARAM idLanguageKorean = 2042;
+    const StoredLanguage kept;
+    const TempFolder folder;
+    const Started started = start(demo_program(), L"--language Global", folder / L"output.txt");
+    const HWND window = wait_for_window(started);
+    ASSERT_NE(nullptr, window);
+    EXPECT_TRUE(wait_for_text(window, L"Office building, three storeys - TarvoDemo"));
+    const HWND span = find_control(window, idSpan);
+    SendMessageW(span, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"7,30"));
+    SendMessageW(window, WM_COMMAND, idRun, 0);
+    EXPECT_EQ((std::vector<std::wstring>{L"Checking the model \"Office building\"",
+                                         L"12 nodes, 15 members, 3 supports",
+                                         L"Model check finished: 0 errors, 0 warnings"}),
+              lines_of(find_control(window, idHistory)));
+    EXPECT_EQ(
+        (std::vector<std::wstring>{
+            L"Analysis started: Linear static", L"Sum of loads: 1950.2 kN vertical, 63.0 kN horizontal",
+            L"6 combinations of 7 load cases", L"Material Structural steel S355: 4084 kg",
+            L"27 equations, half bandwidth 12", L"Solving: 100%", L"Largest displacement: 21.2 mm at node 4",
+            L"Critical load factor 3.48", L"Factor below 10: use a second order analysis",
+            L"Design of 3 steel members", L"Member 10: utilisation 1.06 is above 1.00",
+            L"Member 12: utilisation 1.06 is above 1.00", L"Member 14: utilisation 0.70",
+            L"1 of 3 members fulfil the limits", L"Footing 2: soil pressure 144 kN/m²"}),
+        lines_of(find_control(window, idAnalysis)));
+    SendMessageW(window, WM_COMMAND, idLanguageKorean, 0);
+    EXPECT_TRUE(wait_for_text(window, L"3층 사무소 건물 - TarvoDemo"));
+    EXPECT_EQ(L"7,30", text_of(span));
+    EXPECT_EQ(15u, lines_of(find_control(window, idAnalysis)).size());
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    EXPECT_EQ(0u, finish(started));
 }
