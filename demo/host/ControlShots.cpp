@@ -190,20 +190,3 @@ std::wstring mapped_font(HWND window)
     ReleaseDC(window, dc);
     return result;
 }
-
-std::wstring mapped_font(const wchar_t* face, int points)
-{
-    const HDC dc = GetDC(nullptr);
-    LOGFONTW wanted{};
-    wanted.lfHeight = -MulDiv(points, GetDeviceCaps(dc, LOGPIXELSY), 72);
-    wanted.lfWeight = FW_NORMAL;
-    wanted.lfCharSet = DEFAULT_CHARSET;
-    lstrcpynW(wanted.lfFaceName, face, LF_FACESIZE);
-    const HFONT font = CreateFontIndirectW(&wanted);
-    const HGDIOBJ before = SelectObject(dc, font);
-    const std::wstring result = describe(dc);
-    SelectObject(dc, before);
-    DeleteObject(font);
-    ReleaseDC(nullptr, dc);
-    return result;
-}

@@ -26,5 +26,3 @@ int count_changed_texts(const std::vector<ControlShot>& before, const std::vecto
 
 /// Face and height in pixels of the font that the system takes for the window's texts.
 std::wstring mapped_font(HWND window);
-/// The same for a face that is asked for, in a size in points.
-std::wstring mapped_font(const wchar_t* face, int points);

@@ -124,7 +124,8 @@ std::string change_cell(const LanguageReport& report)
                        std::to_string(report.controls) + " controls</div>";
     for (const std::wstring& text : report.left)
         cell += "<div class=\"failed\">" + escaped(text) + "</div>";
-    return cell + "<div>" + escaped(report.font) + " &rarr; " + escaped(report.mapped) + "</div></td>";
+    return cell + "<div>" + escaped(report.font) + " &rarr; " + escaped(report.mapped) + "<br>" +
+           escaped(report.dialogFont) + " &rarr; " + escaped(report.dialogMapped) + "</div></td>";
 }
 } // namespace
 
@@ -136,6 +137,7 @@ std::vector<std::wstring> language_lines(const LanguageReport& report)
         return {indent + L"the windows to switch did not come up"};
     std::vector<std::wstring> lines{
         indent + L"font of texts          " + report.font + L" is " + report.mapped,
+        indent + L"font of dialogs        " + report.dialogFont + L" is " + report.dialogMapped,
         indent + L"switched from " + kLanguages[report.former].name + L": " +
             std::to_wstring(report.controls) + L" controls, " + std::to_wstring(report.changed) +
             L" texts changed, " + std::to_wstring(report.left.size()) + L" left"};

@@ -26,7 +26,9 @@ struct LanguageReport
     std::vector<std::wstring> left; ///< controls that are not as in a window opened in the language
     std::wstring font;              ///< as the language wants it
     std::wstring mapped;            ///< as the system has it
-    std::wstring before;            ///< the pictures' names
+    std::wstring dialogFont;        ///< the face of dialog templates, which decides on sizes
+    std::wstring dialogMapped;
+    std::wstring before; ///< the pictures' names
     std::wstring after;
 };
 

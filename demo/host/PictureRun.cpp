@@ -66,6 +66,8 @@ private:
                 report.former = former;
                 report.font = wanted_font();
                 report.mapped = mapped_font(::GetDlgItem(main->GetForm().m_hWnd, IDC_MF_NOTE));
+                report.dialogFont = CInternationalUtil::GetDlgFontName().GetString();
+                report.dialogMapped = mapped_font(main->GetTool().m_hWnd); // its template's
             });
         if (main)
             main->DestroyWindow();

@@ -83,18 +83,21 @@ LanguageReport change()
     result.changed = 120;
     result.font = L"Meiryo UI, 9 pt";
     result.mapped = L"Meiryo UI (Other), 14 px";
+    result.dialogFont = L"Gulim";
+    result.dialogMapped = L"Gulim, 15 px";
     result.before = L"b.png";
     result.after = L"a.png";
     return result;
 }
 } // namespace
 
-TEST(DemoReport, ChangeOfLanguageIsTwoLinesAndOneForEachControlThatIsLeft)
+TEST(DemoReport, ChangeOfLanguageIsThreeLinesAndOneForEachControlThatIsLeft)
 {
     LanguageReport report = change();
     report.left = {L"IDD_A/7 shows \"x\", not \"y\""};
     EXPECT_EQ((std::vector<std::wstring>{
                   L"Japanese  font of texts          Meiryo UI, 9 pt is Meiryo UI (Other), 14 px",
+                  L"Japanese  font of dialogs        Gulim is Gulim, 15 px",
                   L"Japanese  switched from Korean: 167 controls, 120 texts changed, 1 left",
                   L"          left: IDD_A/7 shows \"x\", not \"y\""}),
               language_lines(report));

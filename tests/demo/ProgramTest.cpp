@@ -122,6 +122,7 @@ TEST(DemoProgram, PicturesOfOneLanguageAreWrittenWithALineOfCountsForEachWindow)
         "Korean    IDD_MEMBER_PROPERTIES   23 translated   4 fallback   0 missing\n"
         "Korean    font of texts          Malgun Gothic, 9 pt is Malgun Gothic (WenQuanYi - Micro Hei), "
         "14 px\n"
+        "Korean    font of dialogs        굴림 is 굴림 (WenQuanYi - Micro Hei), 14 px\n"
         "Korean    switched from English: 167 controls, 128 texts changed, 0 left\n",
         ended.output);
     for (const wchar_t* window : kWindows)
