@@ -100,7 +100,8 @@ CResText CScriptReader::ReadStyle()
     constexpr std::u16string_view keyword = u"STYLE";
     std::u16string_view rest = TakeStatement(m_lines, BeginsHeadLine).text;
     std::u16string text;
-    for (std::size_t at; (at = rest.find(keyword)) != rest.npos; rest.remove_prefix(at + keyword.size()))
+    for (std::size_t at; (at = rest.find(keyword)) != std::u16string_view::npos;
+         rest.remove_prefix(at + keyword.size()))
         text.append(rest.substr(0, at + keyword.size())).append(u",");
     text.append(rest);
     text.erase(std::remove(text.begin(), text.end(), u' '), text.end());

@@ -118,18 +118,17 @@ std::u16string_view CScriptWords::Compose(const Raw& raw)
     char16_t* out = begin;
     for (const char16_t* in = raw.first; in != raw.last;)
     {
-        if (*in != u'"')
-            *out++ = *in++;
-        else if (IsPair(in))
+        const bool isQuote = *in == u'"';
+        if (isQuote && IsPair(in))
         {
             *out++ = u'\\';
             *out++ = u'"';
             in += 2;
+            continue;
         }
-        else if (IsEscaped(in))
-            *out++ = *in++;
-        else
-            ++in;
+        if (!isQuote || IsEscaped(in))
+            *out++ = *in;
+        ++in;
     }
     return {begin, static_cast<std::size_t>(out - begin)};
 }
