@@ -12,7 +12,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     text.resize(DecodeLenientUtf8({reinterpret_cast<const char*>(data), size}, text.data()));
     const std::size_t middle = text.find(u'\n');
     const std::u16string one = text.substr(0, middle);
-    const std::u16string two = middle == text.npos ? std::u16string() : text.substr(middle + 1);
+    const std::u16string two =
+        middle == std::u16string_view::npos ? std::u16string() : text.substr(middle + 1);
     for (int number = 0; number <= 4; ++number)
     {
         const auto mode = static_cast<StringCheck>(number);

@@ -30,7 +30,9 @@ Words ByTheRules(std::u16string_view line, std::u16string_view separators)
     const auto opensOrCloses = [&](std::size_t i) {
         return text[i] == u'"' && (i == 0 || text[i - 1] != u'\\');
     };
-    const auto separates = [&](std::size_t i) { return separators.find(text[i]) != separators.npos; };
+    const auto separates = [&](std::size_t i) {
+        return separators.find(text[i]) != std::u16string_view::npos;
+    };
     Words words;
     bool inSpan = false, inWord = false;
     for (std::size_t i = 0; i < text.size(); ++i)
