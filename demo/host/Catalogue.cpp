@@ -54,6 +54,7 @@ CString catalogue_text(const wchar_t* key) { return CMSGFunction::GetValue(key);
 void fill_from_catalogue(CWnd& window, int combo, const std::vector<const wchar_t*>& keys)
 {
     std::vector<CString> texts;
+    texts.reserve(keys.size());
     for (const wchar_t* const key : keys)
         texts.push_back(catalogue_text(key));
     fill(window, combo, texts);

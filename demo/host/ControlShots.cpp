@@ -32,7 +32,7 @@ std::wstring lines_of(HWND window, UINT countMessage, UINT lengthMessage, UINT t
     {
         std::wstring line(static_cast<std::size_t>(SendMessageW(window, lengthMessage, i, 0)) + 1, L'\0');
         SendMessageW(window, textMessage, i, reinterpret_cast<LPARAM>(line.data()));
-        all += L" | " + std::wstring(line.c_str());
+        all += L" | " + line.substr(0, line.find(L'\0'));
     }
     return all;
 }
@@ -185,7 +185,7 @@ std::wstring mapped_font(HWND window)
     const HDC dc = GetDC(window);
     const auto font = reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0));
     const HGDIOBJ before = SelectObject(dc, font ? font : GetStockObject(SYSTEM_FONT));
-    const std::wstring result = describe(dc);
+    std::wstring result = describe(dc);
     SelectObject(dc, before);
     ReleaseDC(window, dc);
     return result;

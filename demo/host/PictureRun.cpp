@@ -213,7 +213,7 @@ private:
     /// Writes a picture; the name of its file.
     std::wstring Write(const std::wstring& window, int language, const Picture& picture)
     {
-        const std::wstring file = window + L"_" + kLanguages[language].name + L".png";
+        std::wstring file = window + L"_" + kLanguages[language].name + L".png";
         if (picture.pixels.empty() || !write_bytes(m_folder / file, encode_png(picture)))
         {
             print_line(file + L" could not be written");
