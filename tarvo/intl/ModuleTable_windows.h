@@ -26,7 +26,7 @@ inline ModuleTable TableOfModule(HINSTANCE module)
 inline ModuleTable TableOfWindow(HWND window, UINT resource)
 {
     const auto owner = reinterpret_cast<HINSTANCE>(::GetWindowLongPtrW(window, GWLP_HINSTANCE));
-    const ModuleTable found = TableOfModule(owner);
+    ModuleTable found = TableOfModule(owner);
     if (found.pTable)
         return found;
     const HINSTANCE holder = AfxFindResourceHandle(MAKEINTRESOURCEW(resource), RT_DIALOG);
