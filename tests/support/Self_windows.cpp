@@ -1,20 +1,23 @@
 #include "tests/support/Self.h"
 
 #include <string>
+#include <string_view>
 #include <windows.h>
 
 int run_self(const char* filter)
 {
-    char path[MAX_PATH] = "";
-    ::GetModuleFileNameA(nullptr, path, MAX_PATH);
-    std::string command = std::string("\"") + path + "\" --gtest_filter=" + filter + " --gtest_brief=1";
-    ::SetEnvironmentVariableA("TARVO_TEST_CHILD", "1");
-    STARTUPINFOA startup = {};
+    wchar_t path[MAX_PATH] = L"";
+    ::GetModuleFileNameW(nullptr, path, MAX_PATH);
+    const std::string_view tests(filter);
+    std::wstring command = std::wstring(L"\"") + path + L"\" --gtest_filter=";
+    command += std::wstring(tests.begin(), tests.end()) + L" --gtest_brief=1";
+    ::SetEnvironmentVariableW(L"TARVO_TEST_CHILD", L"1");
+    STARTUPINFOW startup = {};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process = {};
-    const BOOL started = ::CreateProcessA(path, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
+    const BOOL started = ::CreateProcessW(path, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
                                           &startup, &process);
-    ::SetEnvironmentVariableA("TARVO_TEST_CHILD", nullptr);
+    ::SetEnvironmentVariableW(L"TARVO_TEST_CHILD", nullptr);
     if (!started)
         return -1;
     DWORD code = static_cast<DWORD>(-1);
@@ -25,4 +28,4 @@ int run_self(const char* filter)
     return static_cast<int>(code);
 }
 
-bool is_run_by_self() { return ::GetEnvironmentVariableA("TARVO_TEST_CHILD", nullptr, 0) > 0; }
+bool is_run_by_self() { return ::GetEnvironmentVariableW(L"TARVO_TEST_CHILD", nullptr, 0) > 0; }
