@@ -67,11 +67,6 @@ TEST_F(BcgpFormView, RoundsLeaveNeitherDrawingObjectsNorWindows)
         host.DestroyWindow();
         theApp.OnIdle(1);
     };
-    for (int i = 0; i < 3; ++i)
-        round();
-    const int nObjects = CountDrawingObjects();
-    for (int i = 0; i < 30; ++i)
-        round();
-    EXPECT_LE(CountDrawingObjects(), nObjects);
+    ExpectRoundsLoseNothing(30, round);
 }
 } // namespace

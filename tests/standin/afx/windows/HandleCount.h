@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <windows.h>
 
 /// How many drawing objects and windows the process holds. Some of the first rounds' objects the system
@@ -47,4 +49,20 @@ inline int CountWindows()
         },
         reinterpret_cast<LPARAM>(&nCount));
     return nCount;
+}
+
+/// Runs a few rounds for what the system keeps of the first ones, then \p nRounds after which no more
+/// drawing objects and windows may be held than before.
+template <class Round>
+void ExpectRoundsLoseNothing(int nRounds, Round round)
+{
+    for (int i = 0; i < 3; ++i)
+        round();
+    const int nObjects = CountDrawingObjects();
+    const int nWindows = CountWindows();
+    ASSERT_GT(nObjects, 0) << "the table is read where it is";
+    for (int i = 0; i < nRounds; ++i)
+        round();
+    EXPECT_LE(CountDrawingObjects(), nObjects);
+    EXPECT_LE(CountWindows(), nWindows);
 }
