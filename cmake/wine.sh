@@ -63,7 +63,7 @@ make_locale() { # NAME
 make_template() {
   local made=$root/template/made
   [ "$made" -nt "$here/wine-prefix.sh" ] && [ "$made" -nt /usr/share/wine/wine.inf ] && return
-  "$here/wine-prefix.sh" "$root"
+  "${fixed_addresses[@]}" "$here/wine-prefix.sh" "$root"
 }
 
 processors() { # the numbers of the processors that this process may use, one a line
@@ -72,6 +72,13 @@ processors() { # the numbers of the processors that this process may use, one a 
     seq "${range%-*}" "${range#*-}"
   done
 }
+
+# Wine's loader stands at a fixed address below 2 GiB, and Linux begins its heap anywhere in the GiB behind it:
+# once in a few thousand starts on the page at 0x7ffe0000 that every Windows program needs, and the program
+# ends at once ("failed to map the shared user data"). Without random addresses the heap begins where the
+# loader ends; programs that the program starts inherit that.
+fixed_addresses=()
+setarch -R true 2>/dev/null && fixed_addresses=(setarch -R)
 
 # Holds the lock of a free slot as file descriptor 9 and sets slot, WINEPREFIX and pin.
 take_slot() {
@@ -86,7 +93,7 @@ take_slot() {
     sleep 0.02
   done
   export WINEPREFIX=$root/$slot
-  pin=(taskset -c "${cpus[number % ${#cpus[@]}]}")
+  pin=("${fixed_addresses[@]}" taskset -c "${cpus[number % ${#cpus[@]}]}")
 }
 
 # A slot is a copy of the template by hard links, except for the registry, which the server rewrites in place.
