@@ -1,10 +1,7 @@
-#include "platform/codepage_utf8_blocks.h"
+#include "platform/codepage_utf8_decode_blocks.h"
 
-#include <array>
-
-#if defined(__x86_64__) && defined(__SSE2__)
+#ifdef TARVO_HAS_SHUFFLE
 #include <tmmintrin.h>
-#define TARVO_HAS_SHUFFLE 1
 #endif
 
 namespace platform::codepage
@@ -13,11 +10,6 @@ namespace
 {
 template <class Unit>
 using Decoding = Progress<std::uint8_t, Unit>;
-
-bool another_block(const std::uint8_t* p, const std::uint8_t* stop, const std::uint8_t* end)
-{
-    return stop - p >= block_size && end - p >= block_size + 2;
-}
 
 /// Without the shuffle instruction: plain ASCII only.
 template <class Unit>
@@ -79,13 +71,7 @@ public:
         return expected == m_trails && !has_other_byte() && !has_long_form_or_surrogate();
     }
 
-    /// Where the last character ends that is in the block whole.
-    int whole() const
-    {
-        return m_leads3 >> 62 & 1            ? block_size - 2
-               : (m_leads2 | m_leads3) >> 63 ? block_size - 1
-                                             : block_size;
-    }
+    int whole() const { return whole_characters(m_leads2, m_leads3); }
 
 private:
     std::uint64_t from_80_below(int border) const
@@ -230,15 +216,27 @@ Decoding<Unit> decode_shuffled(Decoding<Unit> at, const std::uint8_t* stop, cons
 } // namespace
 
 template <class Unit>
-Decoding<Unit> decode_utf8_blocks(Decoding<Unit> at, const std::uint8_t* stop, const std::uint8_t* end)
+std::span<const Utf8BlockDecoder<Unit>> utf8_block_decoders()
 {
 #ifdef TARVO_HAS_SHUFFLE
-    if (__builtin_cpu_supports("ssse3"))
-        return decode_shuffled(at, stop, end);
+    static constexpr Utf8BlockDecoder<Unit> all[] = {decode_utf8_blocks_avx512, decode_shuffled,
+                                                     decode_ascii_blocks};
+    static const std::size_t unknown_here = has_avx512() ? 0 : __builtin_cpu_supports("ssse3") ? 1 : 2;
+    return std::span(all).subspan(unknown_here);
+#else
+    static constexpr Utf8BlockDecoder<Unit> all[] = {decode_ascii_blocks};
+    return all;
 #endif
-    return decode_ascii_blocks(at, stop, end);
+}
+
+template <class Unit>
+Decoding<Unit> decode_utf8_blocks(Decoding<Unit> at, const std::uint8_t* stop, const std::uint8_t* end)
+{
+    return utf8_block_decoders<Unit>().front()(at, stop, end);
 }
 
 template Decoding<char16_t> decode_utf8_blocks(Decoding<char16_t>, const std::uint8_t*, const std::uint8_t*);
 template Decoding<wchar_t> decode_utf8_blocks(Decoding<wchar_t>, const std::uint8_t*, const std::uint8_t*);
+template std::span<const Utf8BlockDecoder<char16_t>> utf8_block_decoders();
+template std::span<const Utf8BlockDecoder<wchar_t>> utf8_block_decoders();
 } // namespace platform::codepage

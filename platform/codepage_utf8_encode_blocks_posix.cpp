@@ -1,8 +1,7 @@
 #include "platform/codepage_utf8_blocks.h"
 
-#if defined(__x86_64__) && defined(__SSE2__)
+#ifdef TARVO_HAS_SHUFFLE
 #include <tmmintrin.h>
-#define TARVO_HAS_SHUFFLE 1
 #endif
 
 namespace platform::codepage
