@@ -1,4 +1,5 @@
 #include "tarvo/intl/TemplateFont.h"
+#include "tarvo/intl/TemplateLayout.h"
 #include "tarvo/lang/DialogTemplate.h"
 
 #include <cstdio>
@@ -6,7 +7,7 @@
 #include <string>
 
 // Any bytes are read or refused. In a template that is taken the font is the one that was set, every text
-// is where it was, and setting the font once more changes nothing.
+// and control is where it was, and setting the font once more changes nothing.
 namespace
 {
 void Require(bool holds, const char* what)
@@ -22,6 +23,15 @@ bool Same(const DialogTexts& left, const DialogTexts& right)
     bool same = left.caption == right.caption && left.controls.size() == right.controls.size();
     for (std::size_t i = 0; same && i < left.controls.size(); ++i)
         same = left.controls[i].id == right.controls[i].id && left.controls[i].text == right.controls[i].text;
+    return same;
+}
+
+bool Same(const TemplateLayout& left, const TemplateLayout& right)
+{
+    bool same = left.window == right.window && left.controls.size() == right.controls.size();
+    for (std::size_t i = 0; same && i < left.controls.size(); ++i)
+        same =
+            left.controls[i].id == right.controls[i].id && left.controls[i].place == right.controls[i].place;
     return same;
 }
 } // namespace
@@ -40,6 +50,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     Require(GetTemplateFont(once, font) && font.face == L"Malgun Gothic" && font.points == 10,
             "the font is set");
     Require(Same(texts, ReadDialogTemplate(once)), "every text stays");
+    TemplateLayout before, after;
+    Require(ReadTemplateLayout(bytes, before) == ReadTemplateLayout(once, after) && Same(before, after),
+            "every control stays");
     Require(SetTemplateFont(once, {L"Malgun Gothic", 10}, twice) && once == twice,
             "setting again changes nothing");
     return 0;

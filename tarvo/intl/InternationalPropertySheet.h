@@ -6,8 +6,9 @@
 #include <vector>
 
 /// The base of the host's property sheets and wizards. Every page's template gets the dialog font of the
-/// user's settings before the sheet is built. The sheet's own texts are translated, and follow a change of
-/// language (CLanguageSwitch):
+/// user's settings before the sheet is built, and the sheet is made as large as its largest page needs in
+/// that font, as far as the screen allows; the system itself measures pages in a font of its own. The sheet's
+/// own texts are translated, and follow a change of language (CLanguageSwitch):
 /// - its caption by the catalogue's text "IDS_" + name of the first page's dialog + "_SHEET";
 /// - the tabs of CInternationalPropertyPage by the pages' own captions;
 /// - its buttons by the catalogue's texts "IDS_DIALOG_IDOK" and so on (IDCANCEL, IDHELP, ID_APPLY_NOW,
@@ -80,6 +81,11 @@ private:
     void TranslateTabs();
     bool FindWizardTitle(const CString& told, CString& title);
     void TranslateWizardTitle();
+    static bool IsPage(HWND window);
+    SheetLayout::Size WantedPageSize() const;
+    SheetLayout::Rect RoomForPages() const;
+    void FitPages();
+    void StartFromHere();
     void NotePlaces();
 
     CString m_strFirstCaption; ///< as it was given

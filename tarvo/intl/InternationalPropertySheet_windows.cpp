@@ -22,11 +22,6 @@ namespace
 /// The resizable sheet that the system is about to make: its first call names no window.
 CInternationalPropertySheet* g_making = nullptr;
 
-bool IsPage(HWND window)
-{
-    return DYNAMIC_DOWNCAST(CPropertyPage, CWnd::FromHandlePermanent(window)) != nullptr;
-}
-
 /// A template's style, of either form.
 DWORD& StyleIn(void* dialogTemplate)
 {
@@ -132,6 +127,7 @@ void CInternationalPropertySheet::__OnInitDialog()
         EnableVisualManagerStyle();
     TranslateCaptionAndButtons();
     PutTextFont();
+    FitPages();
 }
 
 LRESULT CInternationalPropertySheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -144,10 +140,7 @@ LRESULT CInternationalPropertySheet::WindowProc(UINT message, WPARAM wParam, LPA
     // The object may have gone with its window.
     if (message != WM_INITDIALOG || FromHandlePermanent(window) != this || !IsOpen(this))
         return result;
-    CRect client;
-    GetClientRect(client);
-    m_size = {client.Width(), client.Height()};
-    m_bStarted = true;
+    StartFromHere();
     FinishStart();
     return result;
 }
@@ -250,81 +243,16 @@ void CInternationalPropertySheet::ChangeOwnTexts()
     TranslateWizardTitle();
 }
 
+bool CInternationalPropertySheet::IsPage(HWND window)
+{
+    return DYNAMIC_DOWNCAST(CPropertyPage, CWnd::FromHandlePermanent(window)) != nullptr;
+}
+
 std::vector<HWND> CInternationalPropertySheet::GetFontTargets() const
 {
     std::vector<HWND> targets = ChildrenOf(m_hWnd);
     std::erase_if(targets, IsPage); // they have fonts of their own
     return targets;
-}
-
-// Size.
-
-void CInternationalPropertySheet::NotePlaces()
-{
-    for (const HWND child : ChildrenOf(m_hWnd))
-    {
-        const bool page = IsPage(child);
-        CRect place;
-        ::GetWindowRect(child, place);
-        ScreenToClient(place);
-        const SheetLayout::Rect rect{place.left, place.top, place.right, place.bottom};
-        if (page && ::IsWindowVisible(child))
-            m_page = rect;
-        if (!page)
-            m_parts.push_back(
-                {child, SheetLayout::PartOf(static_cast<UINT>(::GetDlgCtrlID(child)), false), rect});
-    }
-}
-
-void CInternationalPropertySheet::OnResizePage()
-{
-    CRect client;
-    GetClientRect(client);
-    const SheetLayout::Size now{client.Width(), client.Height()};
-    const auto move = [&](HWND window, SheetLayout::PART part, const SheetLayout::Rect& from) {
-        const SheetLayout::Rect to = SheetLayout::Place(part, from, m_size, now);
-        if (::IsWindow(window))
-            ::SetWindowPos(window, nullptr, to.left, to.top, to.right - to.left, to.bottom - to.top,
-                           SWP_NOZORDER | SWP_NOACTIVATE);
-    };
-    for (const Part& part : m_parts)
-        move(part.window, part.part, part.place);
-    if (const CPropertyPage* const page = m_parts.empty() ? nullptr : GetActivePage())
-        move(page->m_hWnd, SheetLayout::PART::Fill, m_page);
-}
-
-bool CInternationalPropertySheet::PutPage(WINDOWPOS& place) const
-{
-    if (m_parts.empty())
-        return false;
-    CRect client;
-    GetClientRect(client);
-    const SheetLayout::Rect to =
-        SheetLayout::Place(SheetLayout::PART::Fill, m_page, m_size, {client.Width(), client.Height()});
-    place.x = to.left;
-    place.y = to.top;
-    place.cx = to.right - to.left;
-    place.cy = to.bottom - to.top;
-    place.flags &= ~static_cast<UINT>(SWP_NOMOVE | SWP_NOSIZE);
-    return true;
-}
-
-void CInternationalPropertySheet::OnSize(UINT nType, int cx, int cy)
-{
-    CBCGPPropertySheet::OnSize(nType, cx, cy);
-    if (!m_bStarted || nType == SIZE_MINIMIZED)
-        return;
-    if (m_parts.empty())
-        NotePlaces();
-    OnResizePage();
-}
-
-void CInternationalPropertySheet::OnActivatePage(CPropertyPage* pPage)
-{
-    CBCGPPropertySheet::OnActivatePage(pPage);
-    if (!m_bStarted)
-        return;
-    OnResizePage();
 }
 
 BOOL CInternationalPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam)

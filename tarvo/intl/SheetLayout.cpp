@@ -32,6 +32,17 @@ const ButtonRow* FindButton(unsigned id)
                                      [id](const ButtonRow& row) { return row.id == id; });
     return found == std::end(kButtons) ? nullptr : found;
 }
+
+/// One direction of Grow. What was larger than the area, or outside of it, is not the growth's fault.
+void GrowSide(int& from, int& to, int by, int areaFrom, int areaTo)
+{
+    const int length = to - from;
+    const int most = std::max(length, areaTo - areaFrom);
+    const int grown = by > 0 ? std::min(length + by, most) : std::max(length + by, 0);
+    if (by > 0 && from + grown > areaTo)
+        from = std::min(from, std::max(areaFrom, areaTo - grown));
+    to = from + grown;
+}
 } // namespace
 
 namespace SheetLayout
@@ -62,6 +73,19 @@ Rect Place(PART part, const Rect& place, const Size& then, const Size& now)
     }
     result.right = std::max(result.right, result.left);
     result.bottom = std::max(result.bottom, result.top);
+    return result;
+}
+
+Size Growth(const Size& wanted, const Size& given)
+{
+    return {std::max(wanted.cx - given.cx, 0), std::max(wanted.cy - given.cy, 0)};
+}
+
+Rect Grow(const Rect& window, const Size& by, const Rect& area)
+{
+    Rect result = window;
+    GrowSide(result.left, result.right, by.cx, area.left, area.right);
+    GrowSide(result.top, result.bottom, by.cy, area.top, area.bottom);
     return result;
 }
 

@@ -9,6 +9,7 @@ struct Size
 {
     int cx = 0;
     int cy = 0;
+    friend bool operator==(const Size&, const Size&) = default;
 };
 
 struct Rect
@@ -34,6 +35,13 @@ TARVO_API PART PartOf(unsigned id, bool isPage);
 /// Where a part that stood at \p place when the sheet's client area was \p then stands when that is \p now.
 /// A part that grows is never turned inside out: its width and height end at 0.
 TARVO_API Rect Place(PART part, const Rect& place, const Size& then, const Size& now);
+
+/// How much larger a sheet becomes whose pages want more room than the system gave them; never smaller.
+TARVO_API Size Growth(const Size& wanted, const Size& given);
+/// A window made larger within an area of the screen: it grows to the right and downwards, is moved back as
+/// far as needed, and is never made larger than the area, so that its buttons can be reached. Negative sizes
+/// make it smaller.
+TARVO_API Rect Grow(const Rect& window, const Size& by, const Rect& area);
 
 /// True for the sheet's buttons that it offers to its pages first: Apply, Help and those of a wizard.
 TARVO_API bool IsRouted(unsigned id);

@@ -54,3 +54,33 @@ TEST(SheetLayout, ButtonsHaveNamesAndOnlySomeAreThePagesFirst)
     EXPECT_EQ(all, L"IDOK IDCANCEL IDHELP ID_APPLY_NOW ID_WIZBACK ID_WIZNEXT ID_WIZFINISH ");
     EXPECT_EQ(routed, L"IDHELP ID_APPLY_NOW ID_WIZBACK ID_WIZNEXT ID_WIZFINISH ");
 }
+
+TEST(SheetLayout, SheetGrowsByWhatItsPagesLack)
+{
+    EXPECT_TRUE((Growth({120, 90}, {100, 95}) == Size{20, 0}));
+    EXPECT_TRUE((Growth({90, 90}, {100, 95}) == Size{0, 0}));
+}
+
+TEST(SheetLayout, WindowGrowsToTheRightAndDownwardsAsFarAsTheScreenAllows)
+{
+    struct Row
+    {
+        Rect window;
+        Size by;
+        Rect grown;
+    };
+    const Rect screen{0, 0, 1000, 700};
+    for (const Row& row : {
+             Row{{10, 20, 110, 120}, {30, 40}, {10, 20, 140, 160}},
+             Row{{10, 20, 110, 120}, {0, 0}, {10, 20, 110, 120}},
+             Row{{890, 590, 990, 690}, {30, 40}, {870, 560, 1000, 700}}, // moved back
+             Row{{10, 20, 110, 120}, {2000, 2000}, {0, 0, 1000, 700}},   // never larger than the screen
+             Row{{-50, 20, 1050, 120}, {10, 0}, {-50, 20, 1050, 120}},   // was larger before
+             Row{{950, 20, 1050, 120}, {0, 10}, {950, 20, 1050, 130}},   // was outside before
+             Row{{10, 20, 110, 120}, {-30, -40}, {10, 20, 80, 80}},      // made smaller
+             Row{{10, 20, 110, 120}, {-300, -400}, {10, 20, 10, 20}},    // but never turned inside out
+             Row{{890, 590, 990, 690}, {-30, 20}, {890, 580, 960, 700}},
+         })
+        EXPECT_TRUE(Grow(row.window, row.by, screen) == row.grown)
+            << row.window.left << "," << row.window.top << " by " << row.by.cx << "," << row.by.cy;
+}

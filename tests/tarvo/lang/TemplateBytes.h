@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string_view>
 #include <vector>
 
@@ -48,6 +49,12 @@ public:
         words({0xFFFF, 0x82, 0xFFFF, 7, 0});
         return *this;
     }
+    /// Where the controls from here on stand; before, all stand at 7, 7 and are 50 x 14 units large.
+    TemplateBytes& place(int x, int y, int cx, int cy)
+    {
+        m_place = {x, y, cx, cy};
+        return *this;
+    }
     const std::vector<unsigned char>& bytes() const { return m_bytes; }
 
 private:
@@ -72,13 +79,16 @@ private:
         ++m_bytes[m_countAt];
         words(m_extended ? std::initializer_list<unsigned>{0, 0, 0, 0, 0, 0x5000}
                          : std::initializer_list<unsigned>{0, 0x5000, 0, 0});
-        words({7, 7, 50, 14, static_cast<unsigned>(id)});
+        for (const int number : m_place)
+            words({static_cast<unsigned>(number)});
+        words({static_cast<unsigned>(id)});
         if (m_extended)
             words({static_cast<unsigned>(id) >> 16});
     }
 
     std::vector<unsigned char> m_bytes;
     std::size_t m_countAt = 0;
+    std::array<int, 4> m_place{7, 7, 50, 14};
     bool m_extended;
     bool m_font;
 };

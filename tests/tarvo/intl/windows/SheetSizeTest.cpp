@@ -1,0 +1,271 @@
+#include "tarvo/intl/InternationalPropertySheet.h"
+#include "tarvo/intl/TemplateLayout.h"
+#include "tests/tarvo/intl/windows/IntlFixture.h"
+
+#include <afxcmn.h>
+
+#include <functional>
+#include <utility>
+
+namespace
+{
+class CSizedSheet : public CInternationalPropertySheet
+{
+public:
+    using CInternationalPropertySheet::CInternationalPropertySheet;
+    BOOL OnInitDialog() override
+    {
+        const BOOL focus = CInternationalPropertySheet::OnInitDialog();
+        if (onInit)
+            onInit();
+        return focus;
+    }
+    void SetText() override
+    {
+        if (const auto once = std::exchange(onText, nullptr))
+            once();
+    }
+    std::function<void()> onInit, onText;
+};
+
+CRect PlaceIn(HWND parent, HWND window)
+{
+    CRect place;
+    ::GetWindowRect(window, place);
+    ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+CRect ClientOf(HWND window)
+{
+    CRect client;
+    ::GetClientRect(window, client);
+    return client;
+}
+
+bool Lies(const CRect& inner, const CRect& outer)
+{
+    CRect both;
+    both.UnionRect(inner, outer);
+    return both == outer;
+}
+
+class SheetSize : public IntlWindows
+{
+protected:
+    void UseFont(const wchar_t* face, const wchar_t* size)
+    {
+        Set(L"DlgFontName_Std", face);
+        Set(L"DlgFontSize_Std", size);
+    }
+    /// Every control inside its page, every page inside the tabs' display area or above a wizard's buttons,
+    /// every button inside the sheet.
+    static void ExpectAllToShow(CPropertySheet& sheet)
+    {
+        for (int i = 0; i < sheet.GetPageCount(); ++i)
+        {
+            ASSERT_TRUE(sheet.SetActivePage(i));
+            const HWND page = sheet.GetPage(i)->m_hWnd;
+            for (HWND child = ::GetWindow(page, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT))
+            {
+                EXPECT_PRED2(Lies, PlaceIn(page, child), ClientOf(page)) << ::GetDlgCtrlID(child);
+            }
+            EXPECT_PRED2(Lies, PlaceIn(sheet, page), RoomForPages(sheet)) << "page " << i;
+        }
+        for (HWND child = ::GetWindow(sheet, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT))
+        {
+            if (!(::GetWindowLongPtrW(child, GWL_STYLE) & WS_VISIBLE))
+                continue;
+            EXPECT_PRED2(Lies, PlaceIn(sheet, child), ClientOf(sheet)) << ::GetDlgCtrlID(child);
+        }
+    }
+    static CRect RoomForPages(CPropertySheet& sheet)
+    {
+        CRect room = ClientOf(sheet);
+        if (sheet.IsWizard())
+        {
+            room.bottom = PlaceIn(sheet, ::GetDlgItem(sheet, ID_WIZNEXT)).top;
+            return room;
+        }
+        CTabCtrl* const tabs = sheet.GetTabControl();
+        room = ClientOf(tabs->m_hWnd);
+        tabs->AdjustRect(FALSE, room);
+        tabs->MapWindowPoints(&sheet, room);
+        return room;
+    }
+    /// Shows a sheet of two pages modally and looks at it.
+    static void Show(CSizedSheet& sheet, CPropertyPage& first, CPropertyPage& second,
+                     const std::function<void()>& look)
+    {
+        sheet.AddPage(&first);
+        sheet.AddPage(&second);
+        sheet.onText = [&] {
+            look();
+            sheet.EndDialog(IDCANCEL);
+        };
+        EXPECT_EQ(sheet.DoModal(), IDCANCEL);
+    }
+    static std::wstring SizeOf(HWND window)
+    {
+        CRect place;
+        ::GetWindowRect(window, place);
+        return std::to_wstring(place.Width()) + L"x" + std::to_wstring(place.Height());
+    }
+    CHostWnd host;
+};
+} // namespace
+
+TEST_F(SheetSize, PagesOfAnyFontShowWhole)
+{
+    for (const auto& [face, points] : {std::pair(L"MS Shell Dlg", L"8"), std::pair(L"Tahoma", L"14"),
+                                       std::pair(L"Arial", L"19"), std::pair(L"Lucida Console", L"8")})
+        for (const bool wizard : {false, true})
+        {
+            SCOPED_TRACE((wizard ? "wizard in " : "sheet in ") + testing::PrintToString(std::wstring(face)));
+            UseFont(face, points);
+            CInternationalPropertyPage one(IDD_PAGE_ONE), wide(IDD_PAGE_WIDE);
+            CSizedSheet sheet(L"Sheet", &host);
+            if (wizard)
+                sheet.SetWizardMode();
+            Show(sheet, one, wide, [&] { ExpectAllToShow(sheet); });
+        }
+}
+
+TEST_F(SheetSize, PagesOfOtherClassesAndModelessSheetsShowWhole)
+{
+    UseFont(L"Arial", L"16");
+    CInternationalPropertyPage one(IDD_PAGE_ONE);
+    CPropertyPage plain(IDD_PAGE_WIDE);
+    CSizedSheet sheet(L"Sheet");
+    sheet.AddPage(&one);
+    sheet.AddPage(&plain);
+    ASSERT_TRUE(sheet.Create(&host));
+    ExpectAllToShow(sheet);
+    sheet.DestroyWindow();
+}
+
+TEST_F(SheetSize, PagesShowWholeBelowAHeader)
+{
+    UseFont(L"Arial", L"16");
+    CInternationalPropertyPage one(IDD_PAGE_ONE), wide(IDD_PAGE_WIDE);
+    CSizedSheet sheet(L"Sheet", &host);
+    sheet.EnablePageHeader(30);
+    Show(sheet, one, wide, [&] {
+        ExpectAllToShow(sheet);
+        EXPECT_EQ(PlaceIn(sheet, wide).top, RoomForPages(sheet).top + 30);
+    });
+}
+
+TEST_F(SheetSize, NothingChangesWhenAllFits)
+{
+    UseFont(L"MS Shell Dlg", L"8");
+    Set(L"DlgFontSize_Eng", L"8");
+    SetTextFont("MS Shell Dlg");
+    for (const bool wizard : {false, true})
+    {
+        const auto dump = [&](CPropertySheet& sheet, CPropertyPage& page) {
+            sheet.AddPage(&page);
+            if (wizard)
+                sheet.SetWizardMode();
+            EXPECT_TRUE(sheet.Create(&host));
+            std::wstring all = SizeOf(sheet) + L"\n" + DumpOf(sheet);
+            sheet.DestroyWindow();
+            return all;
+        };
+        CPropertyPage systemPage(IDD_PAGE_WIDE);
+        CInternationalPropertyPage page(IDD_PAGE_WIDE);
+        CPropertySheet system(L"Sheet");
+        CSizedSheet sheet(L"Sheet");
+        EXPECT_EQ(dump(sheet, page), dump(system, systemPage)) << wizard;
+    }
+}
+
+TEST_F(SheetSize, SheetGrowsByWhatItsPagesLackAndNoMore)
+{
+    const auto sizes = [&](const wchar_t* points) {
+        UseFont(L"Tahoma", points);
+        CInternationalPropertyPage wide(IDD_PAGE_WIDE);
+        CSizedSheet sheet(L"Sheet");
+        sheet.AddPage(&wide);
+        EXPECT_TRUE(sheet.Create(&host));
+        CRect window, page;
+        sheet.GetWindowRect(window);
+        wide.GetWindowRect(page);
+        sheet.DestroyWindow();
+        return window.Size() - page.Size();
+    };
+    EXPECT_EQ(sizes(L"8"), sizes(L"15"));
+}
+
+TEST_F(SheetSize, SheetIsNeverLargerThanTheScreenAndItsButtonsCanBeReached)
+{
+    UseFont(L"Arial", L"60");
+    CInternationalPropertyPage one(IDD_PAGE_ONE), wide(IDD_PAGE_WIDE);
+    CSizedSheet sheet(L"Sheet", &host);
+    Show(sheet, one, wide, [&] {
+        CRect screen, window, button;
+        ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
+        sheet.GetWindowRect(window);
+        EXPECT_EQ(window, screen);
+        ::GetWindowRect(::GetDlgItem(sheet, IDCANCEL), button);
+        EXPECT_PRED2(Lies, button, window);
+        EXPECT_PRED2(Lies, PlaceIn(sheet, one), RoomForPages(sheet));
+    });
+}
+
+TEST_F(SheetSize, GrownSheetFollowsItsSizeAndKeepsWhatADerivedClassAdds)
+{
+    UseFont(L"Tahoma", L"14");
+    CInternationalPropertyPage one(IDD_PAGE_ONE), wide(IDD_PAGE_WIDE);
+    CSizedSheet sheet(L"Sheet", &host);
+    sheet.SetResizable(TRUE);
+    CWnd note;
+    CRect noteThen;
+    const auto resize = [&](int dx, int dy) {
+        CRect place;
+        sheet.GetWindowRect(place);
+        sheet.SetWindowPos(nullptr, 0, 0, place.Width() + dx, place.Height() + dy, SWP_NOMOVE | SWP_NOZORDER);
+    };
+    sheet.onInit = [&] { // a line of its own below the buttons
+        const CRect client = ClientOf(sheet);
+        resize(0, 20);
+        noteThen = CRect(0, client.bottom, client.right, client.bottom + 20);
+        note.Create(L"Static", L"note", WS_CHILD | WS_VISIBLE, noteThen, &sheet, 4000);
+    };
+    Show(sheet, one, wide, [&] {
+        ExpectAllToShow(sheet);
+        EXPECT_EQ(PlaceIn(sheet, note), noteThen);
+        sheet.SetActivePage(0);
+        const CRect pageThen = PlaceIn(sheet, one), buttonThen = PlaceIn(sheet, ::GetDlgItem(sheet, IDOK));
+        resize(40, 30);
+        EXPECT_EQ(PlaceIn(sheet, one), CRect(pageThen.TopLeft(), pageThen.BottomRight() + CSize(40, 30)));
+        EXPECT_EQ(PlaceIn(sheet, ::GetDlgItem(sheet, IDOK)), buttonThen + CPoint(40, 30));
+        sheet.SetActivePage(1);
+        EXPECT_EQ(PlaceIn(sheet, wide), PlaceIn(sheet, one));
+        resize(-40, -30);
+        EXPECT_EQ(PlaceIn(sheet, wide), pageThen);
+    });
+}
+
+TEST_F(SheetSize, DialogUnitsBecomePixelsAsTheSystemHasIt)
+{
+    for (const wchar_t* points : {L"7", L"8", L"9", L"10", L"13", L"22"})
+    {
+        UseFont(L"Tahoma", points);
+        CInternationalPropertyPage wide(IDD_PAGE_WIDE);
+        CSizedSheet sheet(L"Sheet");
+        sheet.AddPage(&wide);
+        ASSERT_TRUE(sheet.Create(&host));
+        CRect mapped(0, 0, 4, 8);
+        ::MapDialogRect(wide, mapped);
+        const DialogUnits units{mapped.right, mapped.bottom};
+        for (const auto& [id, place] : {std::pair(IDC_NAME_EDIT, TemplateLayout::Place{190, 7, 70, 12}),
+                                        std::pair(IDC_SEARCH, TemplateLayout::Place{210, 146, 50, 14})})
+        {
+            const TemplateLayout::Place pixels = ToPixels(place, units);
+            EXPECT_EQ(PlaceIn(wide, ::GetDlgItem(wide, id)),
+                      CRect(CPoint(pixels.x, pixels.y), CSize(pixels.cx, pixels.cy)));
+        }
+        sheet.DestroyWindow();
+    }
+}
