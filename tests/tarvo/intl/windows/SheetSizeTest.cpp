@@ -58,6 +58,22 @@ protected:
         Set(L"DlgFontName_Std", face);
         Set(L"DlgFontSize_Std", size);
     }
+    /// The font that the system makes sheets in; it depends on the machine's language.
+    void UseSystemsFont()
+    {
+        CPropertyPage page(IDD_PAGE_ONE);
+        CPropertySheet sheet(L"Sheet");
+        sheet.AddPage(&page);
+        ASSERT_TRUE(sheet.Create(&host));
+        LOGFONTW font = {};
+        ::GetObjectW(reinterpret_cast<HFONT>(sheet.SendMessage(WM_GETFONT)), sizeof font, &font);
+        sheet.DestroyWindow();
+        const std::wstring points = std::to_wstring(::MulDiv(-font.lfHeight, 72, 96));
+        UseFont(font.lfFaceName, points.c_str());
+        Set(L"DlgFontSize_Eng", points.c_str());
+        const CStringA face(font.lfFaceName);
+        SetTextFont(face.GetString());
+    }
     /// Every control inside its page, every page inside the tabs' display area or above a wizard's buttons,
     /// every button inside the sheet.
     static void ExpectAllToShow(CPropertySheet& sheet)
@@ -158,25 +174,25 @@ TEST_F(SheetSize, PagesShowWholeBelowAHeader)
 
 TEST_F(SheetSize, NothingChangesWhenAllFits)
 {
-    UseFont(L"MS Shell Dlg", L"8");
-    Set(L"DlgFontSize_Eng", L"8");
-    SetTextFont("MS Shell Dlg");
+    UseSystemsFont();
     for (const bool wizard : {false, true})
     {
-        const auto dump = [&](CPropertySheet& sheet, CPropertyPage& page) {
+        const auto places = [&](CPropertySheet& sheet, CPropertyPage& page) {
             sheet.AddPage(&page);
             if (wizard)
                 sheet.SetWizardMode();
             EXPECT_TRUE(sheet.Create(&host));
-            std::wstring all = SizeOf(sheet) + L"\n" + DumpOf(sheet);
+            std::vector<CRect> all{ClientOf(sheet)};
+            for (HWND child = ::GetWindow(sheet, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT))
+                all.push_back(PlaceIn(sheet, child));
             sheet.DestroyWindow();
             return all;
         };
-        CPropertyPage systemPage(IDD_PAGE_WIDE);
-        CInternationalPropertyPage page(IDD_PAGE_WIDE);
+        CPropertyPage systemPage(IDD_PAGE_ONE);
+        CInternationalPropertyPage page(IDD_PAGE_ONE);
         CPropertySheet system(L"Sheet");
         CSizedSheet sheet(L"Sheet");
-        EXPECT_EQ(dump(sheet, page), dump(system, systemPage)) << wizard;
+        EXPECT_EQ(places(sheet, page), places(system, systemPage)) << wizard;
     }
 }
 
