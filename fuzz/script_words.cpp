@@ -63,9 +63,27 @@ Words ByTheRules(std::u16string_view line, std::u16string_view separators)
 Words ByTheWalker(std::u16string_view line, WordSeparators separators)
 {
     CTextArena keep;
-    CScriptWords walker(line, separators, keep);
+    const CScriptMarks marks(line);
+    CScriptWords walker(line.data(), marks, 0, line.size(), keep);
+    walker.EndWordsAt(separators);
     Words words;
     for (std::u16string_view word; walker.Next(word);)
+        words.emplace_back(word);
+    return words;
+}
+
+// The fields behind the first, found from behind the \p count words at blanks and commas.
+Words FieldsFrom(std::u16string_view line, std::size_t count)
+{
+    CTextArena keep;
+    const CScriptMarks marks(line);
+    CScriptWords walker(line.data(), marks, 0, line.size(), keep);
+    std::u16string_view word;
+    while (count-- != 0)
+        walker.Next(word);
+    CScriptWords fields = walker.SecondField(word);
+    Words words;
+    while (fields.Next(word))
         words.emplace_back(word);
     return words;
 }
@@ -77,7 +95,12 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     line.resize(DecodeLenientUtf8({reinterpret_cast<const char*>(data), size}, line.data()));
     const Words standard = ByTheRules(line, u" ,\t");
     Require(ByTheWalker(line, WordSeparators::Standard) == standard, "the words are what the rules give");
-    Require(ByTheWalker(line, WordSeparators::Comma) == ByTheRules(line, u","), "the fields are too");
+    Words fields = ByTheRules(line, u",");
+    Require(ByTheWalker(line, WordSeparators::Comma) == fields, "the fields are too");
+    if (!fields.empty())
+        fields.erase(fields.begin());
+    for (std::size_t i = 0; i < 4; ++i)
+        Require(FieldsFrom(line, i) == fields, "the second field is found from anywhere");
     for (std::size_t i = 0; i <= standard.size() && i < 8; ++i)
         Require(ScriptWord(line, i, WordSeparators::Standard) ==
                     (i < standard.size() ? standard[i] : std::u16string()),

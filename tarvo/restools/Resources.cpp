@@ -41,12 +41,8 @@ bool CResources::ReadMemory(std::string_view bytes, CString& strLog, const wchar
                             CStringArray& arrLanguages)
 {
     *this = CResources();
-    if (bytes.size() > MaxFileSize)
+    if (bytes.size() > MaxFileSize || !m_text.Open(bytes))
         return false;
-    auto text = DecodeText(bytes);
-    if (!text)
-        return false;
-    m_text = std::move(*text);
 
     const CString filter(pszLanguage);
     const auto isWanted = [&](std::u16string_view word) {
@@ -56,6 +52,7 @@ bool CResources::ReadMemory(std::string_view bytes, CString& strLog, const wchar
     };
     std::u16string log;
     CScriptReader(*this, log, filter.IsEmpty(), isWanted).Read();
+    m_text.Close();
     log += u"Reading done\r\n";
     strLog += units::to_string(log);
     return true;
@@ -63,7 +60,7 @@ bool CResources::ReadMemory(std::string_view bytes, CString& strLog, const wchar
 
 std::size_t CResources::MemoryBytes() const
 {
-    return TextBytes() + m_keep.GetSize() * sizeof(char16_t) + NestedBytes(m_menus) +
+    return m_text.GetRoom() * sizeof(char16_t) + m_keep.GetSize() * sizeof(char16_t) + NestedBytes(m_menus) +
            NestedBytes(m_toolbars) + NestedBytes(m_dialogs) + m_strings.GetMemory() + m_bitmaps.GetMemory() +
            m_pngs.GetMemory() + m_icons.GetMemory() + m_cursors.GetMemory();
 }

@@ -2,8 +2,8 @@
 
 #include "tarvo/export.h"
 #include "tarvo/restools/NameIndex.h"
+#include "tarvo/restools/ScriptText.h"
 #include "tarvo/text/TextArena.h"
-#include "tarvo/text/TextDecode.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -48,6 +48,12 @@ public:
     void Append(T item)
     {
         m_arr.push_back(std::move(item));
+        m_index.Forget();
+    }
+    /// Takes over \p items, which keep their memory, in place of those that are there.
+    void Assign(const std::vector<T>& items)
+    {
+        m_arr = items;
         m_index.Forget();
     }
     std::size_t GetCount() const { return m_arr.size(); }
@@ -167,15 +173,15 @@ public:
     const CResBaseclass<CResSimple>& Cursors() const { return m_cursors; }
 
     /// Bytes of the decoded text alone.
-    std::size_t TextBytes() const { return m_text.View().size() * sizeof(char16_t); }
+    std::size_t TextBytes() const { return m_text.GetLength() * sizeof(char16_t); }
     /// Bytes that everything read takes, the decoded text included; look-ups add to it.
     std::size_t MemoryBytes() const;
 
 private:
     friend class CScriptReader;
 
-    CTextUnits m_text;
-    CTextArena m_keep; ///< what had to be put together: continued lines, words with quotes replaced
+    CScriptText m_text;
+    CTextArena m_keep; ///< what had to be put together: words with quotes replaced, styles without spaces
     CResBaseclass<CResMenu> m_menus;
     CResBaseclass<CResToolbar> m_toolbars;
     CResBaseclass<CResDialog> m_dialogs;

@@ -21,6 +21,7 @@ struct ControlRule
 // control ::= CONTROL text "," id "," class "," style "," x "," y "," w "," h ["," exstyle ["," help]]
 //           | text-keyword text "," id "," x "," y "," w "," h ["," style ["," exstyle ["," help]]]
 //           | plain-keyword id "," x "," y "," w "," h ["," style ["," exstyle ["," help]]]
+// In the order of their keywords.
 constexpr ControlRule controlRules[] = {
     {u"CONTROL", true, true, 3},     {u"LTEXT", true, false, 6},         {u"RTEXT", true, false, 6},
     {u"CTEXT", true, false, 6},      {u"ICON", true, false, 6},          {u"GROUPBOX", true, false, 6},
@@ -28,20 +29,16 @@ constexpr ControlRule controlRules[] = {
     {u"COMBOBOX", false, false, 5},  {u"LISTBOX", false, false, 5},      {u"SCROLLBAR", false, false, 5},
 };
 
-const ControlRule* FindRule(std::u16string_view keyword)
-{
-    for (const ControlRule& rule : controlRules)
-        if (rule.keyword == keyword)
-            return &rule;
-    return nullptr;
-}
+constexpr CScriptKeywords headBeginnings(ScriptKeyword::Style, ScriptKeyword::ExStyle, ScriptKeyword::Caption,
+                                         ScriptKeyword::Font, ScriptKeyword::Begin);
+constexpr CScriptKeywords bodyBeginnings =
+    CScriptKeywords(ScriptKeyword::End).With(ScriptKeyword::Control, ScriptKeyword::ScrollBar);
 
-bool BeginsControl(std::u16string_view word) { return word == u"END" || FindRule(word) != nullptr; }
+bool IsControl(ScriptKeyword keyword) { return keyword >= ScriptKeyword::Control; }
 
-bool BeginsHeadLine(std::u16string_view word)
+const ControlRule& RuleOf(ScriptKeyword keyword)
 {
-    return word == u"STYLE" || word == u"EXSTYLE" || word == u"CAPTION" || word == u"FONT" ||
-           word == u"BEGIN";
+    return controlRules[static_cast<std::size_t>(keyword) - static_cast<std::size_t>(ScriptKeyword::Control)];
 }
 
 // The value of a text of digits alone, held at the largest int; 0 of every other.
@@ -76,17 +73,17 @@ bool CScriptReader::ReadDialogHead(CResDialog& dialog)
 {
     while (m_lines.Peek())
     {
-        const CResText first = m_lines.At().first;
-        if (first == u"STYLE")
+        const ScriptKeyword keyword = m_lines.At().keyword;
+        if (keyword == ScriptKeyword::Style)
             dialog.m_strStyle = ReadStyle();
-        else if (first == u"EXSTYLE")
+        else if (keyword == ScriptKeyword::ExStyle)
             dialog.m_strExStyle = ReadStyle();
         else
         {
-            if (first == u"CAPTION")
+            if (keyword == ScriptKeyword::Caption)
                 dialog.m_strCaption = CScriptWords(m_lines.At().words).Next();
             m_lines.Take();
-            if (first == u"BEGIN")
+            if (keyword == ScriptKeyword::Begin)
                 return true;
         }
     }
@@ -94,56 +91,60 @@ bool CScriptReader::ReadDialogHead(CResDialog& dialog)
 }
 
 // style ::= (STYLE | EXSTYLE) expression, over several lines. Wherever "STYLE" stands a comma is put
-// behind it, all spaces are taken out, and what stands between the first two commas is the value.
+// behind it, all spaces and breaks are taken out, and what stands between the first two commas is the value.
 CResText CScriptReader::ReadStyle()
 {
     constexpr std::u16string_view keyword = u"STYLE";
-    std::u16string_view rest = TakeStatement(m_lines, BeginsHeadLine).text;
+    std::u16string_view rest = m_lines.TakeStatement(headBeginnings).text;
     std::u16string text;
     for (std::size_t at; (at = rest.find(keyword)) != std::u16string_view::npos;
          rest.remove_prefix(at + keyword.size()))
         text.append(rest.substr(0, at + keyword.size())).append(u",");
     text.append(rest);
-    text.erase(std::remove(text.begin(), text.end(), u' '), text.end());
+    std::erase_if(text, [](char16_t c) { return c == u' ' || IsScriptBreak(c); });
     return Keep().Copy(ScriptWord(text, 1, WordSeparators::Comma));
 }
 
 // body ::= { control | any other line } END
 void CScriptReader::ReadDialogBody(CResDialog& dialog)
 {
+    m_controls.clear();
     for (bool isOpen = true; isOpen && m_lines.Peek();)
     {
-        isOpen = m_lines.At().first != u"END";
-        if (FindRule(m_lines.At().first) != nullptr)
+        const CScriptLine& line = m_lines.At();
+        if (IsControl(line.keyword))
         {
-            ReadControl(dialog);
+            ReadControl();
             continue;
         }
+        isOpen = line.keyword != ScriptKeyword::End;
         if (isOpen)
-            Log(u"Strange dialog line: ", m_lines.At().text);
+            Log(u"Strange dialog line: ", line.text);
         m_lines.Take();
     }
+    dialog.m_items.Assign(m_controls);
 }
 
-void CScriptReader::ReadControl(CResDialog& dialog)
+void CScriptReader::ReadControl()
 {
-    const ControlRule& rule = *FindRule(m_lines.At().first);
-    CScriptLine statement = TakeStatement(m_lines, BeginsControl);
-    CResDialogControl control;
+    const ControlRule& rule = RuleOf(m_lines.At().keyword);
+    CScriptLine statement = m_lines.TakeStatement(bodyBeginnings);
+    CResDialogControl& control = m_controls.emplace_back();
     control.m_nLine = statement.number;
+    CScriptWords& words = statement.words;
+    CResText word = words.Next();
+    CScriptWords fields = words.SecondField(word);
     if (rule.hasText)
-        control.m_strText = statement.words.Next();
-    control.m_strID = statement.words.Next();
-    control.m_strType = rule.hasClass ? statement.words.Next() : rule.keyword;
+        control.m_strText = std::exchange(word, words.Next());
+    control.m_strID = word;
+    control.m_strType = rule.hasClass ? words.Next() : rule.keyword;
     if (rule.hasClass)
         control.m_nNumber = NumberOf(control.m_strText);
 
-    CScriptWords fields(statement.text, WordSeparators::Comma, Keep());
-    fields.Skip(rule.style);
+    fields.Skip(rule.style - 1);
     control.m_strStyle = WithoutSpaces(fields.Next());
     if (rule.hasClass)
         fields.Skip(4); // place and size
     control.m_strExStyle = WithoutSpaces(fields.Next());
     control.m_strHelpID = WithoutSpaces(fields.Next());
-    dialog.m_items.Append(control);
 }

@@ -1,13 +1,16 @@
 #include "tarvo/restools/ScriptReader.h"
 
+#include "tarvo/text/Units.h"
+
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <utility>
 
 CScriptReader::CScriptReader(CResources& resources, std::u16string& log, bool all,
                              std::function<bool(std::u16string_view)> isWanted)
     : m_resources(resources), m_log(log), m_isWanted(std::move(isWanted)),
-      m_lines(resources.m_text.View(), resources.m_keep), m_wanted(all)
+      m_lines(resources.m_text, resources.m_keep), m_wanted(all)
 {
 }
 
@@ -16,7 +19,7 @@ void CScriptReader::Read()
 {
     while (m_lines.Peek())
     {
-        if (m_lines.At().first == u"LANGUAGE")
+        if (m_lines.At().keyword == ScriptKeyword::Language)
             ReadLanguage();
         else if (!m_wanted || !ReadResource())
             m_lines.Take();
@@ -28,23 +31,24 @@ bool CScriptReader::SkipToBegin()
 {
     bool found = false;
     for (; !found && m_lines.Peek(); m_lines.Take())
-        found = m_lines.At().first == u"BEGIN";
+        found = m_lines.At().keyword == ScriptKeyword::Begin;
     return found;
 }
 
-CResText CScriptReader::WithoutSpaces(std::u16string_view text)
+// What stands between the lines of a statement counts as a space.
+CResText CScriptReader::WithoutSpaces(CResText text)
 {
-    while (!text.empty() && text.front() == u' ')
-        text.remove_prefix(1);
-    while (!text.empty() && text.back() == u' ')
-        text.remove_suffix(1);
-    const auto spaces = std::count(text.begin(), text.end(), u' ');
-    if (spaces == 0)
+    const auto isSpace = [](char16_t c) { return c == u' ' || IsScriptBreak(c); };
+    if (text.empty())
         return text;
-    const std::size_t length = text.size() - static_cast<std::size_t>(spaces);
-    char16_t* const kept = Keep().Add(length);
-    std::remove_copy(text.begin(), text.end(), kept, u' ');
-    return {kept, length};
+    Stripped& known = m_stripped[(text.front() + text.back() + text.size()) % m_stripped.size()];
+    if (units::equal(known.text, text))
+        return known.withoutSpaces;
+    known.text = text;
+    std::u16string stripped;
+    std::remove_copy_if(text.begin(), text.end(), std::back_inserter(stripped), isSpace);
+    known.withoutSpaces = stripped.size() == text.size() ? text : Keep().Copy(stripped);
+    return known.withoutSpaces;
 }
 
 CResText CScriptReader::Numbered(std::u16string_view prefix, unsigned number)

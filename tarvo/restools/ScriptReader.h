@@ -1,10 +1,12 @@
 #pragma once
 
 #include "tarvo/restools/Resources.h"
-#include "tarvo/restools/ScriptStatements.h"
+#include "tarvo/restools/ScriptLines.h"
 
+#include <array>
 #include <functional>
 #include <string>
+#include <vector>
 
 /// Reads the lines of one decoded script into a `CResources`. One function per kind of resource, each
 /// with its rule above it; whatever fits no rule is logged and passed over. Nothing calls itself, however
@@ -23,6 +25,7 @@ private:
     void ReadLanguage();
     bool ReadResource();
     void ReadSimple(CResBaseclass<CResSimple>& list, const CScriptLine& head, CScriptWords words);
+    CResMenuItem ReadMenuItem(CScriptWords words);
     void ReadMenu(const CScriptLine& head);
     void ReadToolbar(const CScriptLine& head);
     void ReadStringTable();
@@ -33,17 +36,26 @@ private:
     bool ReadDialogHead(CResDialog& dialog);
     CResText ReadStyle();
     void ReadDialogBody(CResDialog& dialog);
-    void ReadControl(CResDialog& dialog);
+    void ReadControl();
 
     CTextArena& Keep() { return m_resources.m_keep; }
     bool SkipToBegin();
-    CResText WithoutSpaces(std::u16string_view text);
+    CResText WithoutSpaces(CResText text);
     CResText Numbered(std::u16string_view prefix, unsigned number);
     void Log(std::u16string_view what, std::u16string_view line);
+
+    /// An expression as it was written and what became of it: the same few stand in many controls.
+    struct Stripped
+    {
+        CResText text;
+        CResText withoutSpaces;
+    };
 
     CResources& m_resources;
     std::u16string& m_log;
     std::function<bool(std::u16string_view)> m_isWanted;
     CScriptLines m_lines;
+    std::vector<CResDialogControl> m_controls; ///< of the dialog at hand, until their number is known
+    std::array<Stripped, 16> m_stripped;
     bool m_wanted;
 };

@@ -2,15 +2,12 @@
 
 #include "tarvo/text/Units.h"
 
-#include <iterator>
 #include <utility>
 
 namespace
 {
-bool BeginsMenuStatement(std::u16string_view word)
-{
-    return word == u"MENUITEM" || word == u"POPUP" || word == u"BEGIN" || word == u"END";
-}
+constexpr CScriptKeywords menuBeginnings(ScriptKeyword::MenuItem, ScriptKeyword::Popup, ScriptKeyword::Begin,
+                                         ScriptKeyword::End);
 
 // An empty literal keeps its two quotes: a translator must see that the text is there and empty.
 CResText WithoutOuterQuotes(CResText text)
@@ -22,24 +19,6 @@ CResText WithoutOuterQuotes(CResText text)
     if (text.front() == u'"')
         text.remove_prefix(1);
     return text;
-}
-
-// menu-item ::= MENUITEM SEPARATOR | MENUITEM text [","] id { "," option }
-CResMenuItem MenuItem(CScriptWords words, CTextArena& keep)
-{
-    CResMenuItem item;
-    item.m_strText = words.Next();
-    item.m_strID = words.Next();
-    words.EndWordsAt(WordSeparators::Comma);
-    std::u16string style;
-    for (CResText option; words.Next(option);)
-    {
-        if (!style.empty())
-            style += u'|';
-        std::remove_copy(option.begin(), option.end(), std::back_inserter(style), u' ');
-    }
-    item.m_strStyle = style.empty() ? CResText() : keep.Copy(style);
-    return item;
 }
 } // namespace
 
@@ -75,7 +54,7 @@ bool CScriptReader::ReadResource()
         ReadSimple(m_resources.m_icons, head, words);
     else if (type == u"CURSOR")
         ReadSimple(m_resources.m_cursors, head, words);
-    else if (head.first == u"STRINGTABLE")
+    else if (head.keyword == ScriptKeyword::StringTable)
         ReadStringTable();
     else
         return false;
@@ -89,6 +68,23 @@ void CScriptReader::ReadSimple(CResBaseclass<CResSimple>& list, const CScriptLin
     m_lines.Take();
 }
 
+// menu-item ::= MENUITEM SEPARATOR | MENUITEM text [","] id { "," option }
+CResMenuItem CScriptReader::ReadMenuItem(CScriptWords words)
+{
+    CResMenuItem item;
+    item.m_strText = words.Next();
+    item.m_strID = words.Next();
+    words.EndWordsAt(WordSeparators::Comma);
+    std::u16string style;
+    for (CResText option; words.Next(option);)
+    {
+        if (!style.empty())
+            style += u'|';
+        style += WithoutSpaces(option);
+    }
+    item.m_strStyle = style.empty() ? CResText() : Keep().Copy(style);
+    return item;
+}
 // menu ::= name MENU ... { BEGIN | END | menu-item | POPUP text }, until an END has closed every BEGIN
 void CScriptReader::ReadMenu(const CScriptLine& head)
 {
@@ -100,29 +96,29 @@ void CScriptReader::ReadMenu(const CScriptLine& head)
     m_lines.Take();
     for (long long depth = -1; m_lines.Peek();)
     {
-        const CResText first = m_lines.At().first;
-        if (first == u"MENUITEM" || first == u"POPUP")
+        const ScriptKeyword keyword = m_lines.At().keyword;
+        if (keyword == ScriptKeyword::MenuItem || keyword == ScriptKeyword::Popup)
         {
-            CScriptLine statement = TakeStatement(m_lines, BeginsMenuStatement);
+            CScriptLine statement = m_lines.TakeStatement(menuBeginnings);
             CResMenuItem item;
-            if (first == u"MENUITEM")
-                item = MenuItem(statement.words, Keep());
+            if (keyword == ScriptKeyword::MenuItem)
+                item = ReadMenuItem(statement.words);
             else
                 item = {statement.words.Next(), Numbered(u"POPUP", popups++), {}, 0};
-            if (first == u"MENUITEM" && item.m_strText == u"SEPARATOR")
+            if (keyword == ScriptKeyword::MenuItem && item.m_strText == u"SEPARATOR")
                 item = {{}, Numbered(u"SEPARATOR", separators++), {}, 0};
             item.m_nLine = statement.number;
             menu.m_items.Append(item);
             continue;
         }
-        if (first == u"BEGIN")
+        if (keyword == ScriptKeyword::Begin)
             ++depth;
-        else if (first == u"END")
+        else if (keyword == ScriptKeyword::End)
             --depth;
         else
             Log(u"Unkown line in menu section: ", m_lines.At().text);
         m_lines.Take();
-        if (first == u"END" && depth < 0)
+        if (keyword == ScriptKeyword::End && depth < 0)
             break;
     }
     m_resources.m_menus.Append(std::move(menu));
@@ -139,11 +135,11 @@ void CScriptReader::ReadToolbar(const CScriptLine& head)
     for (bool isOpen = SkipToBegin(); isOpen && m_lines.Peek(); m_lines.Take())
     {
         const CScriptLine& line = m_lines.At();
-        if (line.first == u"BUTTON")
+        if (line.keyword == ScriptKeyword::Button)
             toolbar.m_items.Append({u"BUTTON", CScriptWords(line.words).Next(), line.number});
-        else if (line.first == u"SEPARATOR")
+        else if (line.keyword == ScriptKeyword::Separator)
             toolbar.m_items.Append({u"SEPARATOR", Numbered(u"SEPARATOR", separators++), line.number});
-        else if (line.first == u"END")
+        else if (line.keyword == ScriptKeyword::End)
             isOpen = false;
         else
             Log(u"Unkown toolbar line: ", line.text);
@@ -161,18 +157,14 @@ void CScriptReader::ReadStringTable()
     {
         const CScriptLine line = m_lines.At();
         m_lines.Take();
-        isOpen = line.first != u"END";
+        isOpen = line.keyword != ScriptKeyword::End;
         if (!isOpen)
             break;
         CResText text;
         if (CScriptWords words = line.words; !words.Next(text))
             text = ReadAloneText();
         else
-        {
-            const char16_t* const end = line.text.data() + line.text.size();
-            const char16_t* const quote = units::find(line.text.data(), end, u'"');
-            text = {quote, static_cast<std::size_t>(end - quote)};
-        }
+            text = line.words.FromQuote();
         m_resources.m_strings.Append({line.first, WithoutOuterQuotes(text), line.number});
     }
 }
@@ -180,7 +172,7 @@ void CScriptReader::ReadStringTable()
 // The text of an identifier that stands alone is the next line, unless that ends the table.
 CResText CScriptReader::ReadAloneText()
 {
-    if (!m_lines.Peek() || m_lines.At().first == u"END")
+    if (!m_lines.Peek() || m_lines.At().keyword == ScriptKeyword::End)
         return {};
     const CResText text = units::trim(m_lines.At().text);
     m_lines.Take();

@@ -1,71 +1,51 @@
 #include "tarvo/restools/ScriptWords.h"
 
-#include <initializer_list>
-
-namespace
-{
-constexpr std::u16string_view emptyLiteral = u"\\\"";
-
-constexpr std::uint64_t Bits(std::initializer_list<char16_t> units)
-{
-    std::uint64_t bits = 0;
-    for (const char16_t c : units)
-        bits |= std::uint64_t{1} << c;
-    return bits;
-}
-
-constexpr std::uint64_t standardBits = Bits({u' ', u',', u'\t'});
-constexpr std::uint64_t commaBits = Bits({u','});
-constexpr std::uint64_t quoteBit = Bits({u'"'});
-} // namespace
-
-CScriptWords::CScriptWords(std::u16string_view line, WordSeparators separators, CTextArena& keep)
-    : m_begin(line.data()), m_at(m_begin), m_end(m_begin + line.size()), m_keep(&keep)
-{
-    EndWordsAt(separators);
-}
+#include <algorithm>
+#include <bit>
 
 void CScriptWords::EndWordsAt(WordSeparators separators)
 {
-    m_separators = separators == WordSeparators::Standard ? standardBits : commaBits;
+    m_blankBits = separators == WordSeparators::Standard ? ~std::uint64_t{0} : 0;
+}
+
+// Where this walk has just passed over the first comma word, it need not be done again: when nothing before
+// the word separates at a comma or opens a span, and the word's quotes or its comma end it.
+CScriptWords CScriptWords::SecondField(std::u16string_view word) const
+{
+    CScriptWords words = *this;
+    words.EndWordsAt(WordSeparators::Comma);
+    const std::size_t mark =
+        m_marks->Find(m_begin, m_at, [](const auto& block) { return block.quotes | block.commas; });
+    const char16_t* const at = m_text + m_at;
+    const bool isQuoted =
+        word.data() == m_text + mark + 1 && word.data() + word.size() + 1 == at && at[-1] == u'"';
+    const bool isPlain = mark + 1 == m_at && m_text[mark] == u',';
+    if (m_inSpan || !(isQuoted || isPlain))
+    {
+        words.m_at = m_begin;
+        words.m_inSpan = false;
+        words.Skip(1);
+    }
+    return words;
 }
 
 // Moves to the first unit of the next word. \p isEmpty tells that a span was closed without one, which is
 // a word too.
 bool CScriptWords::FindWord(bool& isEmpty)
 {
-    const char16_t* at = m_at;
-    const char16_t* const end = m_end;
-    bool found = true;
     while (true)
     {
-        while (at != end && IsSeparator(*at))
-            ++at;
-        found = at != end;
-        if (!found || *at != u'"' || IsPair(at) || IsEscaped(at))
-            break;
-        ++at;
+        m_at = m_marks->Find(m_at, m_end, [this](const auto& block) { return ~Separators(block); });
+        if (m_at == m_end)
+            return false;
+        if (m_text[m_at] != u'"' || IsPair(m_at) || IsEscaped(m_at))
+            return true;
+        ++m_at;
         isEmpty = m_inSpan;
         m_inSpan = !m_inSpan;
         if (isEmpty)
-            break;
+            return true;
     }
-    m_at = at;
-    return found;
-}
-
-// The end of the plain text that begins at \p at: a quote, or outside of a span a separator.
-const char16_t* CScriptWords::FindStop(const char16_t* at) const
-{
-    const char16_t* const end = m_end;
-    if (m_inSpan)
-        while (at != end && *at != u'"')
-            ++at;
-    else
-        for (const std::uint64_t stops = m_separators | quoteBit; at != end; ++at)
-            if (*at < 64 && (stops >> *at & 1) != 0)
-                break;
-    return at;
 }
 
 bool CScriptWords::Scan(Raw& raw)
@@ -73,16 +53,19 @@ bool CScriptWords::Scan(Raw& raw)
     bool isEmpty = false;
     if (!FindWord(isEmpty))
         return false;
-    const char16_t* at = m_at;
-    raw.first = raw.last = at;
+    std::size_t at = m_at;
+    raw = {at, at, true};
     if (isEmpty)
         return true;
     while (true)
     {
-        raw.last = at = FindStop(at);
+        // Plain text ends at a quote, or outside of a span at a separator.
+        const std::uint64_t outside = m_inSpan ? 0 : ~std::uint64_t{0};
+        raw.last = at = m_marks->Find(
+            at, m_end, [=, this](const auto& block) { return block.quotes | (Separators(block) & outside); });
         if (at == m_end)
             break;
-        if (*at != u'"') // a separator
+        if (m_text[at] != u'"') // a separator
         {
             ++at;
             break;
@@ -114,26 +97,24 @@ bool CScriptWords::Scan(Raw& raw)
 
 std::u16string_view CScriptWords::Compose(const Raw& raw)
 {
-    char16_t* const begin = m_keep->Add(static_cast<std::size_t>(raw.last - raw.first));
+    char16_t* const begin = m_keep->Add(raw.last - raw.first);
     char16_t* out = begin;
-    for (const char16_t* in = raw.first; in != raw.last;)
+    for (std::size_t at = raw.first; at != raw.last; ++at)
     {
-        const bool isQuote = *in == u'"';
-        if (isQuote && IsPair(in))
+        const bool isQuote = m_text[at] == u'"';
+        if (isQuote && IsPair(at))
         {
             *out++ = u'\\';
             *out++ = u'"';
-            in += 2;
-            continue;
+            ++at;
         }
-        if (!isQuote || IsEscaped(in))
-            *out++ = *in;
-        ++in;
+        else if (!isQuote || IsEscaped(at))
+            *out++ = m_text[at];
     }
     return {begin, static_cast<std::size_t>(out - begin)};
 }
 
-bool CScriptWords::Next(std::u16string_view& word)
+bool CScriptWords::NextOfAll(std::u16string_view& word)
 {
     Raw raw;
     if (!Scan(raw))
@@ -141,35 +122,62 @@ bool CScriptWords::Next(std::u16string_view& word)
         word = {};
         return false;
     }
-    word = {raw.first, static_cast<std::size_t>(raw.last - raw.first)};
+    word = {m_text + raw.first, raw.last - raw.first};
     if (word == u"\"\"") // by far the most frequent pair, and no copy of it is needed
         word = {};
     else if (!raw.isPlain)
         word = Compose(raw);
-    if (word == emptyLiteral)
+    if (word == u"\\\"") // an empty literal
         word = {};
     return true;
-}
-
-std::u16string_view CScriptWords::Next()
-{
-    std::u16string_view word;
-    Next(word);
-    return word;
 }
 
 void CScriptWords::Skip(std::size_t count)
 {
     Raw raw;
-    while (count-- != 0 && Scan(raw))
-    {
-    }
+    while (count != 0)
+        if (const std::size_t skipped = SkipPlain(count))
+            count -= skipped;
+        else if (!Scan(raw))
+            break;
+        else
+            --count;
+}
+
+// Passes over at most \p count words that end at a separator among the next units, before a quote; gives how
+// many.
+std::size_t CScriptWords::SkipPlain(std::size_t count)
+{
+    if (m_inSpan || m_at >= m_end)
+        return 0;
+    const std::uint64_t quotes = m_marks->From(m_at, [](const auto& block) { return block.quotes; });
+    std::uint64_t region = quotes ^ (quotes - 1); // up to the first one; without quotes all bits
+    if (m_end - m_at < CScriptMarks::Count)
+        region &= (std::uint64_t{1} << (m_end - m_at)) - 1;
+    const std::uint64_t separators =
+        m_marks->From(m_at, [this](const auto& block) { return Separators(block); }) & region;
+    // Of each run the first, except that no word ends where none has begun.
+    std::uint64_t ends = separators & ~(separators << 1) & ~std::uint64_t{1};
+    std::size_t skipped = 0;
+    std::size_t last = 0;
+    for (; skipped < count && ends != 0; ++skipped, ends &= ends - 1)
+        last = static_cast<std::size_t>(std::countr_zero(ends)) + 1;
+    m_at += last;
+    return skipped;
+}
+
+std::u16string_view CScriptWords::FromQuote() const
+{
+    const std::size_t quote = m_marks->Find(m_begin, m_end, [](const auto& block) { return block.quotes; });
+    return {m_text + quote, m_end - quote};
 }
 
 std::u16string ScriptWord(std::u16string_view line, std::size_t number, WordSeparators separators)
 {
     CTextArena keep;
-    CScriptWords words(line, separators, keep);
+    const CScriptMarks marks(line);
+    CScriptWords words(line.data(), marks, 0, line.size(), keep);
+    words.EndWordsAt(separators);
     words.Skip(number);
     return std::u16string(words.Next());
 }

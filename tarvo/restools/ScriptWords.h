@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tarvo/export.h"
+#include "tarvo/restools/ScriptMarks.h"
 #include "tarvo/text/TextArena.h"
 
 #include <cstddef>
@@ -25,46 +26,106 @@ enum class WordSeparators
 /// and comes back empty; so does a span that holds nothing but separators.
 ///
 /// A word is a view into the line. Only where pairs had to be replaced or quotes dropped it is a copy, in
-/// the arena. Line and arena must outlive the words.
+/// the arena. Text, marks and arena must outlive the words.
 class TARVO_API CScriptWords
 {
 public:
     CScriptWords() = default;
-    CScriptWords(std::u16string_view line, WordSeparators separators, CTextArena& keep);
+    /// The words of the units from \p begin to \p end of a text. Where it has its breaks marked as
+    /// separators, they stand for blanks.
+    CScriptWords(const char16_t* text, const CScriptMarks& marks, std::size_t begin, std::size_t end,
+                 CTextArena& keep)
+        : m_text(text), m_marks(&marks), m_begin(begin), m_at(begin), m_end(end), m_keep(&keep)
+    {
+    }
 
     /// Gives the next word; false, and an empty word, past the last.
-    bool Next(std::u16string_view& word);
+    bool Next(std::u16string_view& word) { return NextSimple(word) || NextOfAll(word); }
     /// The next word; empty past the last.
-    std::u16string_view Next();
+    std::u16string_view Next()
+    {
+        std::u16string_view word;
+        Next(word);
+        return word;
+    }
     /// Passes over words.
     void Skip(std::size_t count);
-    /// From here on words end at \p separators.
+    /// From here on words end at \p separators; at first at the standard ones.
     void EndWordsAt(WordSeparators separators);
+    /// The words that commas alone separate, from the line's second on. \p word is the word last given.
+    CScriptWords SecondField(std::u16string_view word) const;
+
+    /// Everything from the line's first quote on; empty when there is none.
+    std::u16string_view FromQuote() const;
 
 private:
-    /// A word as the line writes it.
+    /// A word as the line writes it: places in the text.
     struct Raw
     {
-        const char16_t* first = nullptr;
-        const char16_t* last = nullptr;
-        bool isPlain = true; ///< no pair and no span's quote inside
+        std::size_t first;
+        std::size_t last;
+        bool isPlain; ///< no pair and no span's quote inside
     };
 
-    bool IsSeparator(char16_t c) const { return c < 64 && (m_separators >> c & 1) != 0; }
-    bool IsPair(const char16_t* quote) const { return quote + 1 != m_end && quote[1] == u'"'; }
-    bool IsEscaped(const char16_t* quote) const { return quote != m_begin && quote[-1] == u'\\'; }
+    bool IsPair(std::size_t quote) const { return quote + 1 < m_end && m_text[quote + 1] == u'"'; }
+    bool IsEscaped(std::size_t quote) const { return quote != m_begin && m_text[quote - 1] == u'\\'; }
+    std::uint64_t Separators(const CScriptMarks::Block& block) const
+    {
+        return block.commas | (block.separators & m_blankBits);
+    }
+    inline bool NextSimple(std::u16string_view& word);
+    bool NextOfAll(std::u16string_view& word);
     bool FindWord(bool& isEmpty);
-    const char16_t* FindStop(const char16_t* at) const;
     bool Scan(Raw& raw);
+    std::size_t SkipPlain(std::size_t count);
     std::u16string_view Compose(const Raw& raw);
 
-    const char16_t* m_begin = nullptr;
-    const char16_t* m_at = nullptr;
-    const char16_t* m_end = nullptr;
+    const char16_t* m_text = nullptr;
+    const CScriptMarks* m_marks = nullptr;
+    std::size_t m_begin = 0;
+    std::size_t m_at = 0;
+    std::size_t m_end = 0;
     CTextArena* m_keep = nullptr;
-    std::uint64_t m_separators = 0; ///< bit c for the unit c
+    std::uint64_t m_blankBits = ~std::uint64_t{0}; ///< no bits where commas alone separate
     bool m_inSpan = false;
 };
+
+// Takes the words that nearly all are, by what one look at Count units tells: one without any quote that a
+// separator ends, or one in quotes that begins with no separator and holds neither backslash nor quote at its
+// end. False, and nothing is done, for every other.
+inline bool CScriptWords::NextSimple(std::u16string_view& word)
+{
+    if (m_inSpan || m_at >= m_end)
+        return false;
+    const std::uint64_t separators =
+        m_marks->From(m_at, [this](const auto& block) { return Separators(block); });
+    const std::uint64_t quotes = m_marks->From(m_at, [](const auto& block) { return block.quotes; });
+    const std::size_t first = static_cast<std::size_t>(std::countr_zero(~separators));
+    if (first == CScriptMarks::Count)
+        return false;
+    const std::uint64_t behind = ~std::uint64_t{1} << first; // the units behind the first one
+    const bool isQuoted = (quotes >> first & 1) != 0;
+    const std::uint64_t stops = (isQuoted ? quotes : quotes | separators) & behind;
+    if (stops == 0)
+        return false;
+    const std::size_t last = static_cast<std::size_t>(std::countr_zero(stops));
+    const char16_t* const text = m_text + m_at;
+    if (!isQuoted)
+    {
+        if ((quotes >> last & 1) != 0 || m_at + last > m_end)
+            return false;
+        word = {text + first, last - first};
+        m_at += last + (m_at + last != m_end);
+        return true;
+    }
+    const std::uint64_t odd = (separators | quotes) >> 1 >> first | quotes >> 1 >> last;
+    if ((odd & 1) != 0 || last == CScriptMarks::Count - 1 || m_at + last >= m_end ||
+        text[last - 1] == u'\\' || IsEscaped(m_at + first))
+        return false;
+    word = {text + first + 1, last - first - 1};
+    m_at += last + 1;
+    return true;
+}
 
 /// Word number \p number, from 0, of a line; empty past the last.
 TARVO_API std::u16string ScriptWord(std::u16string_view line, std::size_t number, WordSeparators separators);

@@ -204,15 +204,46 @@ std::size_t DecodePieces(std::string_view bytes, char lineBreak, std::size_t rea
     return static_cast<std::size_t>(out - begin);
 }
 
+/// True when any line break is doubtful.
+bool HasDoubtful(std::string_view bytes, std::size_t reach)
+{
+    constexpr platform::codepage::ByteSet high = {0, 0x80, 0x7F}, feed = {0, '\n', 0},
+                                          carriage = {0, '\r', 0};
+    const std::uint8_t* at = First(bytes);
+    const std::uint8_t* const end = at + bytes.size();
+    std::uint64_t before = 0; // of the last block
+    for (; end - at >= block_size; at += block_size)
+    {
+        const Block block(at);
+        if (before == 0 && block.ascii())
+            continue;
+        const std::uint64_t now = block.in(high);
+        std::uint64_t reached = 0;
+        for (std::size_t i = 1; i <= reach; ++i)
+            reached |= now << i | before >> (block_size - static_cast<std::ptrdiff_t>(i));
+        if ((reached & (block.in(feed) | block.in(carriage))) != 0)
+            return true;
+        before = now;
+    }
+    const std::string_view rest =
+        bytes.substr(bytes.size() - std::min(bytes.size(), static_cast<std::size_t>(end - at) + reach));
+    return FindDoubtful(rest, '\n', reach) != rest.size() || FindDoubtful(rest, '\r', reach) != rest.size();
+}
+
+std::size_t DecodeWhole(std::string_view bytes, char16_t* out)
+{
+    return platform::codepage::decode(platform::codepage::ansi, bytes, out).value_or(0);
+}
+
 /// Line by line as far as the result goes, but in pieces as long as they can be: conversion is quickest
 /// over many lines, and hardly a line ends in half a character.
 std::size_t DecodeAnsi(std::string_view bytes, char16_t* out)
 {
     const std::size_t reach = LeadReach();
+    if (!HasDoubtful(bytes, reach))
+        return DecodeWhole(bytes, out);
     return DecodePieces(bytes, '\n', reach, out, [reach](std::string_view lines, char16_t* to) {
-        return DecodePieces(lines, '\r', reach, to, [](std::string_view piece, char16_t* at) {
-            return platform::codepage::decode(platform::codepage::ansi, piece, at).value_or(0);
-        });
+        return DecodePieces(lines, '\r', reach, to, DecodeWhole);
     });
 }
 

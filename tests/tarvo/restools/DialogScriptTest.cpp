@@ -150,6 +150,32 @@ TEST(DialogScript, ControlGoesOnUntilTheNextOneBegins)
         << "a keyword that the rules do not name begins nothing";
 }
 
+// Inside a text too, and whatever quotes there are: a further line is put behind a space.
+TEST(DialogScript, ControlIsTheSameWhereverItsLinesAreBroken)
+{
+    const std::string statements[] = {
+        R"(CONTROL "a b",IDC_X, "Button c" ,A | NOT B ,1, 2,3,4 ,EX | 2, HIDC)",
+        R"(LTEXT "say ""a b"" c", IDC_X, 1,2,3,4,A | B)",
+        R"(LTEXT "say \"a b\" c", IDC_X, 1,2,3,4,A | B)",
+        R"(LTEXT "odd \" a b", IDC_X , 1,2,3,4,A | B)",
+        R"(LTEXT L"wide a", IDC_X, 1,2,3,4,"A B" | C, "D E")",
+        R"(EDITTEXT IDC_X , 1, 2,3,4,A | B , C | D, E)",
+    };
+    for (const std::string& statement : statements)
+        for (std::size_t one = 0; one < statement.size(); ++one)
+            for (std::size_t two = one; two < statement.size(); ++two)
+                for (const std::string lineBreak : {"\n", "\r\n", "\r", "\n\n", "\r\n\t \r\n", "\n\r"})
+                {
+                    if (statement[one] != ' ' || statement[two] != ' ')
+                        continue;
+                    std::string broken = statement;
+                    if (two != one)
+                        broken.replace(two, 1, lineBreak);
+                    broken.replace(one, 1, lineBreak);
+                    ASSERT_EQ(Body(broken), Body(statement)) << broken;
+                }
+}
+
 TEST(DialogScript, LogsLinesThatBelongToNoControl)
 {
     EXPECT_EQ(

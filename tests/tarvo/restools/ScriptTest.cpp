@@ -50,6 +50,18 @@ TEST(MenuScript, ItemGoesOnOverLinesThatBeginNothingElse)
               "menu M { \"a\" ID_A [GRAYED]; \"b\" POPUP0 [] }\n");
 }
 
+TEST(MenuScript, ItemIsTheSameWhereverItsLinesAreBroken)
+{
+    const std::string statement = R"(MENUITEM "a b", ID_X , GRAYED , INACTIVE | HELP)";
+    const std::string wanted = "menu M { \"a b\" ID_X [GRAYED|INACTIVE|HELP] }\n";
+    for (std::size_t at = 0; (at = statement.find(' ', at)) != std::string::npos; ++at)
+        for (const std::string lineBreak : {"\n", "\r\n", "\n\n", "\n\t\n"})
+        {
+            std::string broken = statement;
+            EXPECT_EQ(Menu(broken.replace(at, 1, lineBreak)), wanted) << broken;
+        }
+}
+
 TEST(MenuScript, LogsLinesOutsideOfItems)
 {
     const Script script =

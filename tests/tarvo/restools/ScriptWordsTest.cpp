@@ -12,7 +12,9 @@ Words WordsOf(const std::string& line, WordSeparators separators)
 {
     const std::u16string text = Utf16(line);
     CTextArena keep;
-    CScriptWords walker(text, separators, keep);
+    const CScriptMarks marks(text);
+    CScriptWords walker(text.data(), marks, 0, text.size(), keep);
+    walker.EndWordsAt(separators);
     Words words;
     for (std::u16string_view word; walker.Next(word);)
         words.push_back(Utf8(word));
@@ -116,7 +118,8 @@ TEST(ScriptWords, CanBePassedOverAndEndElsewhereFromThereOn)
 {
     const std::u16string line = u"MENUITEM \"a, b\" 101 GRAYED, INACTIVE";
     CTextArena keep;
-    CScriptWords words(line, WordSeparators::Standard, keep);
+    const CScriptMarks marks(line);
+    CScriptWords words(line.data(), marks, 0, line.size(), keep);
     words.Skip(2);
     EXPECT_EQ(words.Next(), u"101");
     words.EndWordsAt(WordSeparators::Comma);
@@ -130,9 +133,65 @@ TEST(ScriptWords, AreViewsIntoTheLineWhereNothingHadToChange)
 {
     const std::u16string line = u"LTEXT \"Name\",ID";
     CTextArena keep;
-    CScriptWords words(line, WordSeparators::Standard, keep);
+    const CScriptMarks marks(line);
+    CScriptWords words(line.data(), marks, 0, line.size(), keep);
     EXPECT_EQ(words.Next().data(), line.data());
     EXPECT_EQ(words.Next().data(), line.data() + 7);
     EXPECT_EQ(words.Next().data(), line.data() + 13);
     EXPECT_EQ(keep.GetSize(), 0u);
+}
+
+TEST(ScriptWords, AreTheSameWhereverTheyStandAndHoweverLongTheyAre)
+{
+    for (std::size_t length = 0; length < 200; ++length)
+    {
+        const std::string blanks(length, ' '), text(length, 'x');
+        const Words inQuotes = {"LTEXT", "a " + text, "ID", "7"};
+        EXPECT_EQ(Standard("LTEXT" + blanks + " \"a " + text + "\"," + blanks + "ID," + blanks + "7"),
+                  inQuotes);
+        const Words plain = {"a" + text, "b", "c" + text};
+        EXPECT_EQ(Standard(blanks + "a" + text + " b " + blanks + "c" + text), plain);
+        const Words pairs = {text + R"(\"x)", text + R"(\"y)"};
+        EXPECT_EQ(Standard('"' + text + R"(""x" ")" + text + R"(\"y")"), pairs);
+    }
+}
+
+TEST(ScriptWords, StandAlsoInTheMiddleOfAText)
+{
+    const std::u16string text = u"\"LTEXT \"a, b\",ID\",";
+    const CScriptMarks marks(text);
+    CTextArena keep;
+    CScriptWords words(text.data(), marks, 1, text.size() - 2, keep);
+    EXPECT_EQ(words.Next(), u"LTEXT");
+    EXPECT_EQ(words.Next(), u"a, b");
+    EXPECT_EQ(words.Next(), u"ID") << "what stands behind the end is no part of it";
+    std::u16string_view word;
+    EXPECT_FALSE(words.Next(word));
+}
+
+TEST(ScriptWords, HaveASecondFieldThatIsTheOneBehindTheFirstComma)
+{
+    const std::string lines[] = {
+        R"(LTEXT "a, b",ID,7, 8)", R"(LTEXT "",ID,7)",     R"(LTEXT, "a",ID,7)", R"(LTEXT "a" x,ID,7)",
+        R"(LTEXT "a""b",ID,7)",    R"(LTEXT "a\"b",ID,7)", R"(LTEXT L"a",ID,7)", R"(LTEXT a,ID,7)",
+        R"(LTEXT a b,ID,7)",       R"(LTEXT " a",ID,7)",   R"(LTEXT ",a",ID,7)", R"(LTEXT "a"ID,7)",
+        R"(LTEXT \"a,ID,7)",       R"(LTEXT "open,ID,7)",  R"(LTEXT)",           R"(LTEXT ""ID,7)",
+        R"("LTEXT" "a","b",7)",    R"(LTEXT "a","b",7)",   R"(LTEXT ,,a,,ID,7)", R"(LTEXT a"b,c"d,ID,7)",
+        R"(LTEXT "a\",ID)",        R"(,LTEXT a,b)",        R"(LTEXT "a" "b",c)", R"(LTEXT a ,b)",
+    };
+    for (const std::string& line : lines)
+    {
+        const std::u16string text = Utf16(line);
+        const CScriptMarks marks(text);
+        CTextArena keep;
+        CScriptWords words(text.data(), marks, 0, text.size(), keep);
+        words.Next();
+        CScriptWords fields = words.SecondField(words.Next());
+        Words wanted = Comma(line), found;
+        if (!wanted.empty())
+            wanted.erase(wanted.begin());
+        for (std::u16string_view word; fields.Next(word);)
+            found.push_back(Utf8(word));
+        EXPECT_EQ(found, wanted) << line;
+    }
 }

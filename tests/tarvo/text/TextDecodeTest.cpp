@@ -115,6 +115,22 @@ TEST(DecodeText, NeverTakesALineBreakForTheSecondHalfOfACharacter)
     }
 }
 
+TEST(DecodeText, NeverDoesSoWhereverInALongTextTheBreakStands)
+{
+    for (const auto& [page, half] : {std::pair(949, "\xB0"), std::pair(65001, "\xEA\xB0")})
+    {
+        const AnsiPage ansi(page);
+        const auto marker = platform::codepage::decode(page, half);
+        for (std::size_t before = 0; before < 200; ++before)
+        {
+            const std::string plain(before, 'a'), rest(100, 'b');
+            std::u16string wanted(before, u'a');
+            wanted.append(marker->begin(), marker->end()).append(u"\n").append(100, u'b');
+            ASSERT_EQ(Decoded(plain + half + "\n" + rest), wanted) << page << ' ' << before;
+        }
+    }
+}
+
 // The pieces that the decoder makes are an optimisation: line by line is the rule.
 TEST(DecodeText, GivesForAnyBytesWhatDecodingEachLineGives)
 {

@@ -1,0 +1,50 @@
+#include "tarvo/restools/ScriptKeywords.h"
+
+#include "tarvo/text/Units.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace
+{
+using Word = std::u16string_view;
+
+// By keyword.
+constexpr std::array<Word, static_cast<std::size_t>(ScriptKeyword::Count)> words = {
+    u"",         u"LANGUAGE", u"STRINGTABLE", u"BEGIN",     u"END",      u"STYLE",      u"EXSTYLE",
+    u"CAPTION",  u"FONT",     u"MENUITEM",    u"POPUP",     u"BUTTON",   u"SEPARATOR",  u"CONTROL",
+    u"LTEXT",    u"RTEXT",    u"CTEXT",       u"ICON",      u"GROUPBOX", u"PUSHBUTTON", u"DEFPUSHBUTTON",
+    u"EDITTEXT", u"COMBOBOX", u"LISTBOX",     u"SCROLLBAR",
+};
+constexpr std::size_t shortest = 3;
+constexpr std::size_t longest = 13;
+
+// A place of its own for each keyword, found by trying factors.
+constexpr std::size_t PlaceOf(Word word) { return (word[0] + word[1] * 28u + word.size() * 2) % 64; }
+
+constexpr std::array<ScriptKeyword, 64> places = [] {
+    std::array<ScriptKeyword, 64> table = {};
+    for (std::size_t i = 1; i < words.size(); ++i)
+        table[PlaceOf(words[i])] = static_cast<ScriptKeyword>(i);
+    return table;
+}();
+
+constexpr bool AllHaveTheirPlace()
+{
+    for (std::size_t i = 1; i < words.size(); ++i)
+        if (words[i].size() < shortest || words[i].size() > longest ||
+            places[PlaceOf(words[i])] != static_cast<ScriptKeyword>(i))
+            return false;
+    return true;
+}
+static_assert(AllHaveTheirPlace());
+} // namespace
+
+ScriptKeyword FindScriptKeyword(Word word)
+{
+    if (word.size() < shortest || word.size() > longest)
+        return ScriptKeyword::None;
+    const ScriptKeyword keyword = places[PlaceOf(word)];
+    return units::equal(word, words[static_cast<std::size_t>(keyword)]) ? keyword : ScriptKeyword::None;
+}

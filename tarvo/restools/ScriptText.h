@@ -1,0 +1,45 @@
+#pragma once
+
+#include "tarvo/restools/ScriptMarks.h"
+#include "tarvo/text/TextDecode.h"
+
+#include <cstddef>
+#include <cstdlib>
+#include <memory>
+#include <string_view>
+
+/// The text of a script in UTF-16 units and its marks. It grows at its end: a piece is decoded when the one
+/// before has been taken apart, so that what is looked at is still in the cache. Units never move.
+class CScriptText
+{
+public:
+    /// Begins with \p bytes, which must stay until all of them are decoded. False when there is no memory.
+    bool Open(std::string_view bytes);
+    /// Decodes more, at least a unit; false when there is no more. The marks before \p needed go.
+    bool Grow(std::size_t needed);
+    /// Gives the marks back. The text stays.
+    void Close() { m_marks = CScriptMarks(); }
+
+    /// Behind the last unit there are some zeros.
+    const char16_t* Units() const { return m_units.get(); }
+    /// Units decoded.
+    std::size_t GetLength() const { return m_length; }
+    const CScriptMarks& Marks() const { return m_marks; }
+    /// Units that there is room for.
+    std::size_t GetRoom() const { return m_room; }
+
+private:
+    struct Free
+    {
+        void operator()(char16_t* p) const { std::free(p); }
+    };
+
+    std::string_view NextPiece() const;
+
+    std::unique_ptr<char16_t[], Free> m_units;
+    std::size_t m_length = 0;
+    std::size_t m_room = 0;
+    CScriptMarks m_marks;
+    std::string_view m_bytes; ///< what is left to decode
+    TextEncoding m_encoding = TextEncoding::Ansi;
+};
