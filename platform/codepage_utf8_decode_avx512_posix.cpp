@@ -3,7 +3,6 @@
 #ifdef TARVO_HAS_SHUFFLE
 // The compiler takes the undefined values inside its own header for mistakes.
 #pragma GCC diagnostic ignored "-Wuninitialized"
-#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
 #include <immintrin.h>
 
 // Runs only where the processor has these instructions, and can be part of nothing that runs elsewhere.
