@@ -40,7 +40,7 @@ scripts/setup.sh demo || exit 1
 logs=build/mingw
 mkdir -p "$logs"
 step "configuring" "$logs/configure.log" cmake --preset mingw || exit 1
-step "building the demonstration" "$logs/build.log" cmake --build --preset mingw -j "$jobs" --target demo/all || exit 1
+step "building the demonstration" "$logs/build.log" cmake --build --preset mingw -j "$jobs" --target demo/all tarvo || exit 1
 program=build/mingw/bin/TarvoDemo.exe
 [ -f "$program" ] || die "the build made no $program"
 
@@ -48,6 +48,13 @@ if [ -n "$show" ]; then
   WINE_TEST_GFX=desktop WINE_TEST_TIMEOUT=0 in_group cmake/wine.sh "$program" "${language[@]}"
   exit
 fi
+# The dialogs of a real program, where its scripts are at hand, become rows of the same page.
+rm -f "$out/windows.tsv"
+WINE_TEST_TIMEOUT=600 in_group python3 demo/real/real_dialogs.py --out build/mingw/real \
+  --windres x86_64-w64-mingw32-windres --compiler x86_64-w64-mingw32-g++-posix \
+  --bin build/mingw/bin --launcher "$root/cmake/wine.sh" --pictures "$out"
+status=$?
+[ "$status" -eq 0 ] || [ "$status" -eq 77 ] || die "the real dialogs do not show their translation"
 # Wine shows the machine's folders as drive Z.
 WINE_TEST_TIMEOUT=600 in_group cmake/wine.sh "$program" --pictures "Z:${out//\//\\}" "${language[@]}"
 status=$?

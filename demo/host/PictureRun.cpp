@@ -2,11 +2,13 @@
 
 #include "demo/host/IndexPage.h"
 #include "demo/host/Languages.h"
+#include "demo/host/ReportFile.h"
 #include "demo/host/SwitchCheck.h"
 #include "demo/host/TextCount.h"
 #include "demo/host/WindowPicture.h"
 #include "tarvo/intl/InternationalUtil.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 
@@ -41,6 +43,7 @@ public:
 
     int Finish()
     {
+        AddReportsOfOthers();
         const std::string page = index_page(m_reports, m_languages);
         const bool written = write_bytes(m_folder / L"index.html", {page.begin(), page.end()});
         if (!written)
@@ -220,6 +223,16 @@ private:
             m_failed = true;
         }
         return file;
+    }
+
+    void AddReportsOfOthers()
+    {
+        for (const WindowReport& report : read_reports(m_folder / kReportFile))
+        {
+            if (std::any_of(m_languages.begin(), m_languages.end(),
+                            [&](const LanguageReport& shown) { return shown.language == report.language; }))
+                m_reports.push_back(report);
+        }
     }
 
     void Add(const WindowReport& report)
