@@ -14,7 +14,8 @@ constexpr std::string_view head =
     "table{border-collapse:collapse;width:100%}\n"
     "td,th{border:1px solid #ccc;padding:2px 8px;text-align:left;vertical-align:top;white-space:pre-wrap}\n"
     "th{background:#f4f4f4}\nsummary{cursor:pointer;padding:4px 0;font-weight:600}\n"
-    ".bad{background:#fff3f0}\n.finding{color:#a8071a;display:block}\n.finding code{color:#777}\n"
+    "tr.bad{background:#fff3f0}\n.bad>summary,.finding{color:#a8071a}\n.finding{display:block}\n.finding "
+    "code{color:#777}\n"
     "#only:checked~main .good{display:none}\n</style>\n</head>\n<body>\n"
     "<h1>Resource scripts compared</h1>\n"
     "<input type=\"checkbox\" id=\"only\"><label for=\"only\"> only differences</label>\n<main>\n";

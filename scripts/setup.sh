@@ -11,10 +11,11 @@ set -euo pipefail
 
 wine=(g++-mingw-w64-x86-64-posix wine wine64 fonts-wine fonts-wqy-microhei fonts-dejavu-core locales)
 libraries=(libcli11-dev nlohmann-json3-dev)
+readers=(chromium python3-sarif-python-om) # of the reports that tarvo writes
 declare -A groups=(
   [build]="cmake ninja-build g++ ccache python3 ${libraries[*]}"
-  [quick]="googletest"
-  [tests]="googletest ${wine[*]}"
+  [quick]="googletest ${readers[*]}"
+  [tests]="googletest ${readers[*]} ${wine[*]}"
   [demo]="${wine[*]}"
   [bench]="libbenchmark-dev libglib2.0-dev libicu-dev icu-devtools gettext qt6-base-dev qt6-l10n-tools
     libboost-locale-dev pkg-config googletest llvm diffutils ${wine[*]}"
