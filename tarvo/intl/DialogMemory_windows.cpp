@@ -8,6 +8,8 @@
 
 namespace
 {
+constexpr std::size_t kLongestFont = 2 * (1 + 2 + 32) + 2; ///< size, traits and face; padding
+
 bool PutFont(CDialogTemplate& memory, const TemplateFont& font)
 {
     std::vector<unsigned char> bytes;
@@ -17,7 +19,8 @@ bool PutFont(CDialogTemplate& memory, const TemplateFont& font)
         if (!begin || !SetTemplateFont({begin, memory.m_dwTemplateSize}, font, bytes))
             return false;
     }
-    const HGLOBAL changed = ::GlobalAlloc(GPTR, bytes.size());
+    // Room for any other face.
+    const HGLOBAL changed = ::GlobalAlloc(GPTR, bytes.size() + kLongestFont);
     if (!changed)
         return false;
     std::memcpy(changed, bytes.data(), bytes.size()); // fixed memory: the handle is its address
@@ -31,6 +34,19 @@ bool PutFont(CDialogTemplate& memory, const TemplateFont& font)
 bool LoadWithFont(CDialogTemplate& memory, LPCTSTR resource, const TemplateFont& font)
 {
     return resource && memory.Load(resource) && PutFont(memory, font);
+}
+
+bool ReplaceFont(CDialogTemplate& memory, LPCTSTR resource, const TemplateFont& font)
+{
+    CDialogTemplate changed;
+    if (!memory.m_hTemplate || !LoadWithFont(changed, resource, font) ||
+        changed.m_dwTemplateSize > ::GlobalSize(memory.m_hTemplate))
+        return false;
+    const CTemplateLock from(changed);
+    // Fixed memory: the handle is its address.
+    std::memcpy(memory.m_hTemplate, from.Get(), changed.m_dwTemplateSize);
+    memory.m_dwTemplateSize = changed.m_dwTemplateSize;
+    return true;
 }
 
 namespace

@@ -10,6 +10,10 @@
 /// it cannot be loaded or is damaged.
 bool LoadWithFont(CDialogTemplate& memory, LPCTSTR resource, const TemplateFont& font);
 
+/// Puts another font into a template that LoadWithFont has loaded from the resource, where it lies: somebody
+/// may have its address. False, with nothing changed, when there is none or the resource is another one now.
+bool ReplaceFont(CDialogTemplate& memory, LPCTSTR resource, const TemplateFont& font);
+
 /// True when the template is that of a child window.
 bool MakesChild(const CDialogTemplate& memory);
 /// The template's caption.

@@ -79,6 +79,7 @@ INT_PTR CInternationalDlg::DoModal()
     const TemplateFont font = GetDialogFont();
     if (!ChangeDlgFont(memory, font.face, font.points))
         return -1;
+    MadeFrom(TemplateResource(), font);
     return ShowFromMemory(memory, [this] { return CBCGPDialog::DoModal(); });
 }
 
@@ -103,8 +104,10 @@ BOOL CInternationalDlg::CreateFrom(LPCTSTR resource, CWnd* pParentWnd)
         m_nIDHelp = m_nDlgResID;
     const CResourceModule module(AfxFindResourceHandle(m_lpszTemplateName, RT_DIALOG));
     CDialogTemplate memory;
-    if (!LoadWithFont(memory, m_lpszTemplateName, GetDialogFont()))
+    const TemplateFont font = GetDialogFont();
+    if (!LoadWithFont(memory, m_lpszTemplateName, font))
         return FALSE;
+    MadeFrom(m_lpszTemplateName, font);
     m_lpDialogTemplate = static_cast<LPCDLGTEMPLATE>(::GlobalLock(memory.m_hTemplate));
     return ShowFromMemory(memory, [&] { return CreateIndirect(m_lpDialogTemplate, pParentWnd); });
 }
@@ -125,6 +128,8 @@ BOOL CInternationalDlg::OnInitDialog()
 
 LRESULT CInternationalDlg::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (message == WM_GETFONT && GetDialogFontNow())
+        return reinterpret_cast<LRESULT>(GetDialogFontNow());
     const HWND window = m_hWnd;
     const LRESULT result = CBCGPDialog::WindowProc(message, wParam, lParam);
     // The object may have gone with its window; it is looked at only when it still has it.

@@ -38,6 +38,8 @@ protected:
 
     /// PutTextFont, unless the interface is Korean.
     void ChangeFormViewFont();
+    CPoint BeginLayout() override;
+    void EndLayout(bool changed) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     DECLARE_MESSAGE_MAP()
@@ -48,5 +50,7 @@ private:
     void Place(const RECT& rect);
 
     UINT m_nFormResID;
+    CPoint m_scrolled;             ///< before another layout
+    CSize m_formerSize;            ///< of the whole, then
     bool m_bUpdateMessage = false; ///< WM_INITIALUPDATE is being handled
 };

@@ -25,11 +25,13 @@ BOOL CInternationalFormView::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowNam
     CDialogTemplate memory;
     CREATESTRUCTW cs{};
     cs.style = static_cast<LONG>(dwRequestedStyle != 0 ? dwRequestedStyle : AFX_WS_DEFAULT_VIEW);
+    const TemplateFont font = GetDialogFont();
     // The base refuses what it cannot show, in its own way.
-    if (!pParentWnd || !LoadWithFont(memory, m_lpszTemplateName, GetDialogFont()) || !MakesChild(memory) ||
+    if (!pParentWnd || !LoadWithFont(memory, m_lpszTemplateName, font) || !MakesChild(memory) ||
         !PreCreateWindow(cs))
         return CBCGPFormView::Create(lpszClassName, lpszWindowName, dwRequestedStyle, rect, pParentWnd, nID,
                                      pContext);
+    MadeFrom(m_lpszTemplateName, font);
     {
         const CTemplateLock lock(memory);
         if (!CreateFrom(lock.Get(), cs, pParentWnd, nID, pContext))
@@ -86,6 +88,8 @@ void CInternationalFormView::OnInitialUpdate()
 
 LRESULT CInternationalFormView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (message == WM_GETFONT && GetDialogFontNow())
+        return reinterpret_cast<LRESULT>(GetDialogFontNow());
     if (message != WM_INITIALUPDATE)
         return CBCGPFormView::WindowProc(message, wParam, lParam);
     const HWND window = m_hWnd;
@@ -103,6 +107,23 @@ void CInternationalFormView::ChangeFormViewFont()
 {
     if (!CLocaleLib::bKoreanUILanguage)
         PutTextFont();
+}
+
+CPoint CInternationalFormView::BeginLayout()
+{
+    m_formerSize = GetTotalSize();
+    return m_scrolled = GetScrollPosition();
+}
+
+/// What was at the upper left corner comes back there.
+void CInternationalFormView::EndLayout(bool changed)
+{
+    if (!changed || m_formerSize.cx <= 0 || m_formerSize.cy <= 0)
+        return;
+    const CSize now = GetTemplateSize();
+    SetScrollSizes(MM_TEXT, now);
+    ScrollToPosition(CPoint(::MulDiv(m_scrolled.x, now.cx, m_formerSize.cx),
+                            ::MulDiv(m_scrolled.y, now.cy, m_formerSize.cy)));
 }
 
 int CInternationalFormView::TranslateStringToINI() { return TranslateByTable(m_nFormResID); }

@@ -9,6 +9,7 @@
 
 class CDialogTemplate;
 struct ModuleTable;
+struct TemplateFont;
 
 /// The base of the host's property pages. In a CInternationalPropertySheet a page is made in the dialog font
 /// of the user's settings, and its tab has the caption of the user's language; in any sheet its texts get
@@ -61,8 +62,10 @@ private:
     friend class CInternationalPropertySheet;
     LPCTSTR TemplateResource() const;
     ModuleTable FindTable() const;
+    void RenewTemplate();
 
     std::unique_ptr<CDialogTemplate> m_pTemplate; ///< what the sheet makes the page from
+    std::unique_ptr<TemplateFont> m_pFont;        ///< which is in the template
     CString m_strTabCaption;                      ///< as the resource says
     CString m_strBuiltText;                       ///< as the sheet was told when it was built
     CString m_strTabText;                         ///< as the tab was given last

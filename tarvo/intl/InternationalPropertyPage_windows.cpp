@@ -14,13 +14,13 @@ ON_REGISTERED_MESSAGE(WM_QORVEL_RC_STRING_EXTRACT, &CInternationalPropertyPage::
 END_MESSAGE_MAP()
 
 CInternationalPropertyPage::CInternationalPropertyPage()
-    : CLanguageWindow(SKIN_WINDOW::PropertyPage), m_pTemplate(new CDialogTemplate)
+    : CLanguageWindow(SKIN_WINDOW::PropertyPage), m_pTemplate(new CDialogTemplate), m_pFont(new TemplateFont)
 {
 }
 
 CInternationalPropertyPage::CInternationalPropertyPage(UINT nIDTemplate, UINT nIDCaption)
     : CBCGPPropertyPage(nIDTemplate, nIDCaption), CLanguageWindow(SKIN_WINDOW::PropertyPage),
-      m_pTemplate(new CDialogTemplate)
+      m_pTemplate(new CDialogTemplate), m_pFont(new TemplateFont)
 {
     m_nDlgResID = nIDTemplate;
 }
@@ -37,8 +37,11 @@ void CInternationalPropertyPage::SetDlgResID_o(UINT nID, LPCTSTR lpszSymbol) { S
 void CInternationalPropertyPage::PreProcessPageTemplateInternational(PROPSHEETPAGE& psp, BOOL bWizard)
 {
     PreProcessPageTemplate(psp, bWizard);
-    if (!LoadWithFont(*m_pTemplate, TemplateResource(), GetDialogFont()))
+    const TemplateFont font = GetDialogFont();
+    if (!LoadWithFont(*m_pTemplate, TemplateResource(), font))
         return;
+    *m_pFont = font;
+    MadeFrom(TemplateResource(), font);
     psp.dwFlags |= PSP_DLGINDIRECT;
     psp.pResource = static_cast<PROPSHEETPAGE_RESOURCE>(::GlobalLock(m_pTemplate->m_hTemplate));
     const bool given = (psp.dwFlags & PSP_USETITLE) && psp.pszTitle;
@@ -49,6 +52,17 @@ void CInternationalPropertyPage::PreProcessPageTemplateInternational(PROPSHEETPA
     m_strTabText = m_strBuiltText;
     psp.dwFlags |= PSP_USETITLE;
     psp.pszTitle = m_strBuiltText;
+}
+
+/// The system has the template's address. It makes the page from it when the page first comes to the front.
+void CInternationalPropertyPage::RenewTemplate()
+{
+    const TemplateFont font = GetDialogFont();
+    if (font == *m_pFont || !FollowsLanguage() || !ReplaceFont(*m_pTemplate, TemplateResource(), font))
+        return;
+    *m_pFont = font;
+    if (!m_hWnd)
+        MadeFrom(TemplateResource(), font);
 }
 
 ModuleTable CInternationalPropertyPage::FindTable() const
@@ -82,6 +96,8 @@ BOOL CInternationalPropertyPage::OnInitDialog()
 
 LRESULT CInternationalPropertyPage::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (message == WM_GETFONT && GetDialogFontNow())
+        return reinterpret_cast<LRESULT>(GetDialogFontNow());
     const HWND window = m_hWnd;
     const LRESULT result = CBCGPPropertyPage::WindowProc(message, wParam, lParam);
     // The object may have gone with its window.

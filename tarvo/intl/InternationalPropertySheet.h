@@ -65,6 +65,7 @@ protected:
     /// then to the sheet's; when none handles them, the system does as ever.
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void ChangeOwnTexts() override;
+    void EndLayout(bool changed) override;
     std::vector<HWND> GetFontTargets() const override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     void PostNcDestroy() override;
@@ -84,7 +85,10 @@ private:
     static bool IsPage(HWND window);
     SheetLayout::Size WantedPageSize() const;
     SheetLayout::Rect RoomForPages() const;
+    SheetLayout::Size ClientSize() const;
+    SheetLayout::Size GrowSheet(const SheetLayout::Size& by);
     void FitPages();
+    void FitPagesAnew();
     void StartFromHere();
     void NotePlaces();
 
@@ -100,8 +104,10 @@ private:
         SheetLayout::PART part;
         SheetLayout::Rect place;
     };
-    SheetLayout::Size m_size; ///< of the client area when the parts stood at their places
-    SheetLayout::Rect m_page; ///< where a page stood then
+    SheetLayout::Size m_size;    ///< of the client area when the parts stood at their places
+    SheetLayout::Rect m_page;    ///< where a page stood then
+    SheetLayout::Size m_growth;  ///< by which the sheet is larger than the system has made it, for its pages
+    SheetLayout::Size m_started; ///< the client area's size as the sheet came up
     std::vector<Part> m_parts;
     bool m_bStarted = false; ///< the sheet's size is the user's from now on
 };

@@ -2,6 +2,7 @@
 
 #include "tarvo/intl/DialogMemory_windows.h"
 #include "tarvo/intl/DialogUnits_windows.h"
+#include "tarvo/intl/ScreenPlace_windows.h"
 #include "tarvo/intl/WindowText_windows.h"
 
 #include <afxcmn.h>
@@ -15,17 +16,6 @@ namespace
 SheetLayout::Size SizeOf(const SheetLayout::Rect& rect)
 {
     return {rect.right - rect.left, rect.bottom - rect.top};
-}
-
-SheetLayout::Rect RectOf(const CRect& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
-
-/// The part of the screen that a window is on without what is always in front.
-SheetLayout::Rect WorkArea(HWND window)
-{
-    MONITORINFO monitor = {};
-    monitor.cbSize = sizeof monitor;
-    ::GetMonitorInfoW(::MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
-    return RectOf(monitor.rcWork);
 }
 
 void Widen(SheetLayout::Size& size, const CDialogTemplate& memory)
@@ -79,27 +69,80 @@ void CInternationalPropertySheet::FitPages()
         return;
     const SheetLayout::Rect room = RoomForPages();
     const SheetLayout::Size growth = SheetLayout::Growth(WantedPageSize(), SizeOf(room));
+    m_growth = {};
     if (room == m_page && growth == SheetLayout::Size())
     {
         m_parts.clear(); // everything stays as the system has it
         return;
     }
     m_page = room;
-    CRect window;
-    GetWindowRect(window);
-    const SheetLayout::Rect grown = SheetLayout::Grow(RectOf(window), growth, WorkArea(m_hWnd));
-    SetWindowPos(nullptr, grown.left, grown.top, grown.right - grown.left, grown.bottom - grown.top,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    m_growth = GrowSheet(growth);
     OnResizePage();
+}
+
+/// Returns by how much it could be done.
+SheetLayout::Size CInternationalPropertySheet::GrowSheet(const SheetLayout::Size& by)
+{
+    const SheetLayout::Size former = ClientSize();
+    GrowWindow(m_hWnd, by);
+    const SheetLayout::Size now = ClientSize();
+    return {now.cx - former.cx, now.cy - former.cy};
+}
+
+SheetLayout::Size CInternationalPropertySheet::ClientSize() const
+{
+    CRect client;
+    GetClientRect(client);
+    return {client.Width(), client.Height()};
+}
+
+void CInternationalPropertySheet::EndLayout(bool)
+{
+    for (int i = 0; i < GetPageCount(); ++i)
+        if (auto* const page = DYNAMIC_DOWNCAST(CInternationalPropertyPage, GetPage(i)))
+            page->RenewTemplate();
+    if (m_bStarted)
+        FitPagesAnew();
+}
+
+/// The tabs' font is another one, and perhaps that of the pages, too. The sheet gets the size that it would
+/// come up in now, and keeps what the user has added to it.
+void CInternationalPropertySheet::FitPagesAnew()
+{
+    const SheetLayout::Size now = ClientSize();
+    const SheetLayout::Rect formerPage = m_page;
+    const bool placed = !m_parts.empty();
+    m_parts.clear();
+    m_size = now;
+    NotePlaces();
+    if (m_parts.empty())
+        return;
+    const SheetLayout::Rect room = RoomForPages();
+    const SheetLayout::Size bare = {SizeOf(room).cx - m_growth.cx - (now.cx - m_started.cx),
+                                    SizeOf(room).cy - m_growth.cy - (now.cy - m_started.cy)};
+    const SheetLayout::Size growth = SheetLayout::Growth(WantedPageSize(), bare);
+    const SheetLayout::Size by = {growth.cx - m_growth.cx, growth.cy - m_growth.cy};
+    if (!placed && room == m_page && by == SheetLayout::Size())
+    {
+        m_parts.clear();
+        m_page = formerPage;
+        return;
+    }
+    m_page = room;
+    const SheetLayout::Size done = GrowSheet(by);
+    m_growth = {m_growth.cx + done.cx, m_growth.cy + done.cy};
+    m_started = {m_started.cx + done.cx, m_started.cy + done.cy};
+    OnResizePage();
+    if (!(by == SheetLayout::Size()))
+        OnLayoutChanged();
 }
 
 /// The sheet's initialisation has ended, and with it what a derived class has added and moved.
 void CInternationalPropertySheet::StartFromHere()
 {
     const bool placed = !m_parts.empty();
-    CRect client;
-    GetClientRect(client);
-    m_size = {client.Width(), client.Height()};
+    m_size = ClientSize();
+    m_started = m_size;
     m_parts.clear();
     if (placed)
         NotePlaces();
@@ -112,11 +155,7 @@ void CInternationalPropertySheet::NotePlaces()
     if (!front || !front->m_hWnd)
         return;
     if (!m_bStarted)
-    {
-        CRect client;
-        GetClientRect(client);
-        m_size = {client.Width(), client.Height()};
-    }
+        m_size = ClientSize();
     for (const HWND child : ChildrenOf(m_hWnd))
     {
         const bool page = IsPage(child);
@@ -133,9 +172,7 @@ void CInternationalPropertySheet::NotePlaces()
 
 void CInternationalPropertySheet::OnResizePage()
 {
-    CRect client;
-    GetClientRect(client);
-    const SheetLayout::Size now{client.Width(), client.Height()};
+    const SheetLayout::Size now = ClientSize();
     const auto move = [&](HWND window, SheetLayout::PART part, const SheetLayout::Rect& from) {
         const SheetLayout::Rect to = SheetLayout::Place(part, from, m_size, now);
         if (::IsWindow(window))
@@ -152,10 +189,7 @@ bool CInternationalPropertySheet::PutPage(WINDOWPOS& place) const
 {
     if (m_parts.empty())
         return false;
-    CRect client;
-    GetClientRect(client);
-    const SheetLayout::Rect to =
-        SheetLayout::Place(SheetLayout::PART::Fill, m_page, m_size, {client.Width(), client.Height()});
+    const SheetLayout::Rect to = SheetLayout::Place(SheetLayout::PART::Fill, m_page, m_size, ClientSize());
     place.x = to.left;
     place.y = to.top;
     place.cx = to.right - to.left;

@@ -1,5 +1,7 @@
 #include "tarvo/intl/LanguageWindow.h"
 
+#include "tarvo/intl/ChoiceKeeper_windows.h"
+#include "tarvo/intl/DialogLayout_windows.h"
 #include "tarvo/intl/InternationalUtil.h"
 #include "tarvo/intl/LocaleLib.h"
 #include "tarvo/intl/ModuleTable_windows.h"
@@ -20,7 +22,10 @@ std::vector<CLanguageWindow*>& OpenWindows()
 }
 } // namespace
 
-CLanguageWindow::CLanguageWindow(SKIN_WINDOW kind) : m_kind(kind), m_pTexts(new CTemplateTexts) {}
+CLanguageWindow::CLanguageWindow(SKIN_WINDOW kind)
+    : m_kind(kind), m_pTexts(new CTemplateTexts), m_pLayout(new CDialogLayout)
+{
+}
 
 CLanguageWindow::~CLanguageWindow() { CLanguageWindow::CloseWindow(); }
 
@@ -38,12 +43,19 @@ void CLanguageWindow::OpenWindow(CWnd* window)
     if (!IsOpen(this))
         OpenWindows().push_back(this);
     m_pTexts->Note(window->m_hWnd);
+    m_pLayout->Open(window->m_hWnd, m_kind == SKIN_WINDOW::Dialog);
+}
+
+void CLanguageWindow::MadeFrom(LPCTSTR resource, const TemplateFont& font)
+{
+    m_pLayout->MadeFrom(resource, font);
 }
 
 void CLanguageWindow::CloseWindow()
 {
     std::erase(OpenWindows(), this);
     m_pWindow = nullptr;
+    m_pLayout->Close();
     if (m_hTextFont)
         ::DeleteObject(m_hTextFont);
     m_hTextFont = nullptr;
@@ -92,26 +104,79 @@ void CLanguageWindow::SendTextFont(HFONT former, bool redraw) const
 
 void CLanguageWindow::PutTextFont()
 {
+    m_pLayout->NoteMoves(CPoint(0, 0));
     if (CLocaleLib::IsEnglish() || CLocaleLib::IsRussian())
         CInternationalUtil::AdjustStaticControlHeight(m_pWindow);
     // Once more, on every system.
     CInternationalUtil::AdjustStaticControlHeight(m_pWindow);
-    if (!MakeTextFont())
-        return;
-    SendTextFont(nullptr, false);
-    SendTextFont(nullptr, true);
+    if (MakeTextFont())
+    {
+        SendTextFont(nullptr, false);
+        SendTextFont(nullptr, true);
+    }
+    m_pLayout->Settle();
 }
 
+/// The windows below that say they have this font.
+std::vector<HWND> CLanguageWindow::GetHolders(HFONT font) const
+{
+    std::vector<HWND> holders = GetFontTargets();
+    std::erase_if(holders, [font](HWND window) {
+        return !font || reinterpret_cast<HFONT>(::SendMessageW(window, WM_GETFONT, 0, 0)) != font;
+    });
+    return holders;
+}
+
+HFONT CLanguageWindow::GetDialogFontNow() const { return m_pLayout->GetFont(); }
+
+CSize CLanguageWindow::GetTemplateSize() const { return m_pLayout->GetTemplateSize(); }
+
+/// What had the text font gets it again afterwards: the places that a dialog's parts take depend on the font
+/// that they have when they are placed.
+void CLanguageWindow::ChangeDialogFont()
+{
+    const auto former = reinterpret_cast<HFONT>(m_pWindow->SendMessage(WM_GETFONT));
+    const std::vector<HWND> texts = GetHolders(m_hTextFont);
+    std::vector<HWND> holders = GetHolders(former);
+    holders.insert(holders.end(), texts.begin(), texts.end());
+    m_pLayout->Apply(holders);
+    if (!IsOpen(this)) // closed on the way
+        return;
+    for (const HWND window : texts)
+        if (::IsWindow(window))
+            ::SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(m_hTextFont), FALSE);
+}
+
+void CLanguageWindow::ChangeFonts()
+{
+    const bool otherLayout = m_pLayout->LoadNew();
+    const CPoint scrolled = otherLayout ? BeginLayout() : CPoint(0, 0);
+    {
+        // Its end has the whole window painted: group boxes and tabs leave what a shorter text uncovers to
+        // the window below them.
+        const CPaintingPause pause(m_pWindow->m_hWnd);
+        m_pLayout->NoteMoves(scrolled);
+        if (otherLayout)
+            ChangeDialogFont();
+        if (!IsOpen(this))
+            return;
+        CInternationalUtil::AdjustStaticControlHeight(m_pWindow);
+        ChangeTextFont();
+        m_pLayout->Settle();
+    }
+    EndLayout(otherLayout);
+    if (otherLayout && IsOpen(this))
+        OnLayoutChanged();
+}
+
+/// A form that keeps its template's font has no other.
 void CLanguageWindow::ChangeTextFont()
 {
-    const CPaintingPause pause(m_pWindow->m_hWnd);
-    CInternationalUtil::AdjustStaticControlHeight(m_pWindow);
     const HFONT former = m_hTextFont;
-    if (!MakeTextFont())
+    if (!former || !MakeTextFont())
         return;
     SendTextFont(former, true);
-    if (former)
-        ::DeleteObject(former);
+    ::DeleteObject(former);
 }
 
 int CLanguageWindow::TranslateByTable(UINT resource)
@@ -194,6 +259,7 @@ void CLanguageWindow::ChangeLanguage()
         return;
     const CEntryKeeper entries(m_pTexts->GetEntries());
     {
+        const CChoiceKeeper choices(m_pWindow->m_hWnd);
         const CTextGuard guard(m_pTexts->GetTypedEntries());
         ChangeTexts();
         if (IsOpen(this))
@@ -201,8 +267,8 @@ void CLanguageWindow::ChangeLanguage()
     }
     if (!IsOpen(this))
         return;
-    ChangeTextFont();
-    // Group boxes and tabs leave what a shorter text uncovers to the window below them.
-    m_pWindow->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+    ChangeFonts();
+    if (!IsOpen(this))
+        return;
     ISkinFunc::Instance()->OnWindowReady(m_pWindow, m_kind);
 }

@@ -12,6 +12,7 @@ struct TemplateFont
 {
     CString face;
     int points = 0;
+    friend bool operator==(const TemplateFont&, const TemplateFont&) = default;
 };
 
 /// The font of a template, plain or extended, in its bytes. False when it names none or ends before it.

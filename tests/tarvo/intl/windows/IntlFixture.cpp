@@ -120,25 +120,36 @@ std::wstring FontOf(HWND window)
     return font.lfFaceName + (L" " + std::to_wstring(font.lfHeight));
 }
 
-std::wstring DumpOf(HWND window)
+namespace
 {
-    std::wstring all;
+std::wstring LineOf(HWND window)
+{
+    wchar_t name[64] = {};
+    ::GetClassNameW(window, name, 64);
+    CRect place;
+    ::GetWindowRect(window, place);
+    CWnd::FromHandle(::GetParent(window))->ScreenToClient(place);
+    CString line;
+    line.Format(L"%s %d %s [%d,%d %dx%d] ", name, ::GetDlgCtrlID(window), TextOf(window).c_str(), place.left,
+                place.top, place.Width(), place.Height());
+    return line.GetString() + FontOf(window) + L"\n";
+}
+} // namespace
+
+std::wstring DumpOf(HWND window, const std::function<bool(HWND)>& wanted)
+{
+    std::vector<HWND> all;
     ::EnumChildWindows(
         window,
-        [](HWND child, LPARAM text) -> BOOL {
-            wchar_t name[64] = {};
-            ::GetClassNameW(child, name, 64);
-            CRect place;
-            ::GetWindowRect(child, place);
-            CWnd::FromHandle(::GetParent(child))->ScreenToClient(place);
-            CString line;
-            line.Format(L"%s %d %s [%d,%d %dx%d] ", name, ::GetDlgCtrlID(child), TextOf(child).c_str(),
-                        place.left, place.top, place.Width(), place.Height());
-            *reinterpret_cast<std::wstring*>(text) += line.GetString() + FontOf(child) + L"\n";
+        [](HWND child, LPARAM list) -> BOOL {
+            reinterpret_cast<std::vector<HWND>*>(list)->push_back(child);
             return TRUE;
         },
         reinterpret_cast<LPARAM>(&all));
-    return all;
+    std::wstring dump;
+    for (const HWND child : all)
+        dump += !wanted || wanted(child) ? LineOf(child) : L"";
+    return dump;
 }
 
 int HeightOf(HWND window)

@@ -7,6 +7,7 @@
 
 #include "qlx/qlx_lib.h"
 
+#include <functional>
 #include <map>
 #include <ostream>
 #include <string>
@@ -52,8 +53,8 @@ std::wstring TextOf(HWND window);
 std::wstring TextsOf(HWND window);
 /// "face height" of the font that a window says it has.
 std::wstring FontOf(HWND window);
-/// Every window below, one a line: class, identifier, text, place and font.
-std::wstring DumpOf(HWND window);
+/// Every window below, or those that are wanted, one a line: class, identifier, text, place and font.
+std::wstring DumpOf(HWND window, const std::function<bool(HWND)>& wanted = {});
 /// A control's height in pixels.
 int HeightOf(HWND window);
 

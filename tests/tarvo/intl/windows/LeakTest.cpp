@@ -85,6 +85,7 @@ TEST_F(ThousandRounds, OfAModelessDialogThatChangesItsLanguageLoseNothing)
         ASSERT_TRUE(dlg.Create(IDD_SETUP, &host));
         ++n % 2 ? SpeakGerman() : SpeakFrench();
         SetTextFont(n % 2 ? "Lucida Console" : "Tahoma");
+        Set(L"DlgFontSize_Std", n % 2 ? L"12" : L"9");
         EXPECT_EQ(CLanguageSwitch::Retranslate(), 1);
         dlg.DestroyWindow();
     });
@@ -108,6 +109,21 @@ TEST_F(ThousandRounds, OfASheetWithItsPagesLoseNothing)
         sheet.AddPage(&one);
         sheet.AddPage(&two);
         EXPECT_EQ(sheet.DoModal(), IDOK);
+    });
+}
+
+TEST_F(ThousandRounds, OfASheetThatGrowsAndChangesItsFontsLoseNothing)
+{
+    Run([&] {
+        Set(L"DlgFontSize_Std", L"14");
+        CRoundPage one(IDD_PAGE_ONE), two(IDD_PAGE_TWO);
+        CInternationalPropertySheet sheet(L"Sheet");
+        sheet.AddPage(&one);
+        sheet.AddPage(&two);
+        ASSERT_TRUE(sheet.Create(&host));
+        Set(L"DlgFontSize_Std", L"9");
+        EXPECT_EQ(CLanguageSwitch::Retranslate(), 2);
+        sheet.DestroyWindow();
     });
 }
 
