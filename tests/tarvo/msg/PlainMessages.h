@@ -47,6 +47,8 @@ public:
         if (nEquals < 0)
             return;
         const CString key = line.Left(nEquals);
+        if (key.GetLength() != 4) // the comparison below ends at a NUL
+            return;
         if (key.CompareNoCase(L"FONT") == 0)
             m_font = line.Mid(nEquals + 1);
         else if (key.CompareNoCase(L"SIZE") == 0)
