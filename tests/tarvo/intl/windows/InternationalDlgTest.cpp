@@ -1,6 +1,7 @@
 #include "tarvo/intl/InternationalDlg.h"
 
 #include "tarvo/intl/InternationalUtil.h"
+#include "tarvo/intl/LanguageSwitch.h"
 #include "tarvo/intl/LocaleLib.h"
 #include "tarvo/intl/TemplateFont.h"
 #include "tests/tarvo/intl/windows/IntlFixture.h"
@@ -213,8 +214,8 @@ TEST_F(InternationalDialogs, OfFiveHundredNestedChildrenGiveTheFontToAll)
             HWND parent = m_hWnd;
             for (int i = 0; i < 500 && parent; ++i)
             {
-                parent = ::CreateWindowExW(0, L"Static", L"x", WS_CHILD, 0, 0, 100, 20, parent, nullptr,
-                                           nullptr, nullptr);
+                parent = ::CreateWindowExW(0, L"Static", L"x", WS_CHILD | WS_VISIBLE, 0, 0, 100, 20, parent,
+                                           nullptr, nullptr, nullptr);
                 if (parent)
                     nested.push_back(parent);
             }
@@ -222,10 +223,16 @@ TEST_F(InternationalDialogs, OfFiveHundredNestedChildrenGiveTheFontToAll)
     };
     CNestedDlg dlg;
     ASSERT_TRUE(dlg.Create(IDD_SETUP));
-    // The system allows a limited depth; whatever could be made has the font.
-    ASSERT_GE(dlg.nested.size(), 40u);
+    ASSERT_EQ(dlg.nested.size(), 500u) << "the system has no limit at this depth";
+    dlg.ShowWindow(SW_SHOW);
+    PumpAll();
     for (const HWND window : dlg.nested)
         EXPECT_EQ(FontOf(window), L"Tahoma -12");
+    SetTextFont("Lucida Console");
+    EXPECT_EQ(CLanguageSwitch::Retranslate(), 1);
+    PumpAll();
+    for (const HWND window : dlg.nested)
+        EXPECT_EQ(FontOf(window), L"Lucida Console -12");
     dlg.DestroyWindow();
 }
 
