@@ -5,7 +5,6 @@
 
 namespace
 {
-constexpr double kSpacing = 5.0;    // of the frames, m
 constexpr double kRoofLive = 0.75;  // kN/m²
 constexpr double kFooting = 2.2;    // side of a footing, m
 constexpr double kContinuity = 0.4; // a beam over supports against one on two
@@ -40,7 +39,8 @@ double line_load(const FrameModel& model, int storey, bool design)
     const bool roof = storey + 1 == model.storeys;
     const double live = roof ? std::min(model.live, kRoofLive) : model.live;
     const double own = model.selfWeight ? member.beamArea * 100 * member.density * 0.00981 : 0;
-    return (design ? 1.35 : 1.0) * (model.dead * kSpacing + own) + (design ? 1.5 : 1.0) * live * kSpacing;
+    return (design ? 1.35 : 1.0) * (model.dead * kFrameSpacing + own) +
+           (design ? 1.5 : 1.0) * live * kFrameSpacing;
 }
 
 double column_force(const FrameModel& model, bool design)
@@ -65,11 +65,25 @@ double amplification(const FrameModel& model, FrameAnalysis analysis)
     const double factor = critical_factor(model);
     return analysis == FrameAnalysis::secondOrder && factor > 1 ? 1 / (1 - 1 / factor) : 1;
 }
+
+/// Of a beam of this storey, mm.
+double deflection(const FrameModel& model, FrameAnalysis analysis, int storey)
+{
+    const Member& member = member_of(model.material);
+    return 10 * (model.rigid ? kContinuity : 1) * 5 / 384 * line_load(model, storey, false) / 100 *
+           std::pow(100 * model.span, 4) / (member.modulus * member.beamI) * amplification(model, analysis);
+}
 } // namespace
 
 ModelCheck check_frame(const FrameModel& model)
 {
     return {!(model.span > 0) || !(model.height > 0), !(model.wind > 0)};
+}
+
+double column_stiffness(const FrameModel& model)
+{
+    const Member& member = member_of(model.material);
+    return 0.1 * member.modulus * member.columnI; // from kNcm²
 }
 
 FrameResult calculate_frame(const FrameModel& model, FrameAnalysis analysis)
@@ -78,13 +92,11 @@ FrameResult calculate_frame(const FrameModel& model, FrameAnalysis analysis)
     FrameResult result{};
     for (int storey = 0; storey < model.storeys; ++storey)
         result.vertical += line_load(model, storey, true) * model.span * model.bays;
-    result.horizontal = 1.5 * model.wind * kSpacing * model.height * model.storeys;
+    result.horizontal = 1.5 * model.wind * kFrameSpacing * model.height * model.storeys;
     const double beams = 100 * model.span * model.bays * model.storeys;
     const double columns = 100 * model.height * model.storeys * (model.bays + 1);
     result.mass = member.density * (beams * member.beamArea + columns * member.columnArea);
-    const double span = 100 * model.span;
-    result.displacement = 10 * kContinuity * 5 / 384 * line_load(model, 0, false) / 100 * std::pow(span, 4) /
-                          (member.modulus * member.beamI) * amplification(model, analysis);
+    result.displacement = deflection(model, analysis, 0);
     result.frequency = 18 / std::sqrt(result.displacement);
     result.criticalFactor = critical_factor(model);
     result.soilPressure = column_force(model, false) / (kFooting * kFooting);
@@ -94,15 +106,20 @@ FrameResult calculate_frame(const FrameModel& model, FrameAnalysis analysis)
 StoreyResult calculate_storey(const FrameModel& model, FrameAnalysis analysis, int storey)
 {
     const Member& member = member_of(model.material);
-    const double moment = 100 * line_load(model, storey, true) * model.span * model.span / 10 *
-                          amplification(model, analysis); // kNcm
+    const double moment = 100 * line_load(model, storey, true) * model.span * model.span /
+                          (model.rigid ? 10 : 8) * amplification(model, analysis); // kNcm
+    const double bent = deflection(model, analysis, storey);
     if (model.material != FrameMaterial::concrete)
-        return {moment / (member.beamW * member.strength), 0};
+        return {moment / (member.beamW * member.strength), moment / 100, bent, 0, 0};
     constexpr double width = 30;
     constexpr double depth = 45; // to the reinforcement
     constexpr double limit = 0.37;
     constexpr double steel = 43.5;
-    return {moment / (width * depth * depth * member.strength) / limit, moment / (0.9 * depth * steel)};
+    constexpr double bars = 200;     // their distance along the beam that cracks open at once, mm
+    constexpr double youngs = 20000; // of steel, kN/cm²
+    const double strain = steel * line_load(model, storey, false) / line_load(model, storey, true) / youngs;
+    return {moment / (width * depth * depth * member.strength) / limit, moment / 100, bent,
+            moment / (0.9 * depth * steel), bars * strain};
 }
 
 double ISection::Area() const { return (2 * width * flange + (depth - 2 * flange) * web) / 100; }

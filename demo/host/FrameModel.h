@@ -25,9 +25,14 @@ struct FrameModel
     double live = 3.0;   ///< kN/m², on the floors; the roof has that of maintenance
     double wind = 0.8;   ///< kN/m²
     bool selfWeight = true;
+    bool rigid = true;    ///< beams run through over their columns
+    bool combines = true; ///< load combinations are generated
     FrameMaterial material = FrameMaterial::steel;
     double utilisationLimit = 1.0;
+    int deflectionRatio = 200;  ///< a beam may bend by its span divided by this
+    double crackLimit = 0.3;    ///< mm, concrete only
     bool warnsNearLimit = true; ///< from 90 % of the limit on
+    bool listsEachOnce = false; ///< a member that exceeds several limits is listed with the first
 
     int Nodes() const { return (bays + 1) * (storeys + 1); }
     int Members() const { return bays * storeys + (bays + 1) * storeys; }
@@ -37,6 +42,8 @@ struct FrameModel
     /// The beams have the numbers behind the columns', storey by storey.
     int FirstBeam(int storey) const { return (bays + 1) * storeys + storey * bays + 1; }
 };
+
+inline constexpr double kFrameSpacing = 5.0; ///< m
 
 inline constexpr int kLoadCaseCount = 7;
 inline constexpr int kCombinationCount = 6;
@@ -53,7 +60,10 @@ ModelCheck check_frame(const FrameModel& model);
 struct StoreyResult
 {
     double utilisation;   ///< of the bending resistance
+    double moment;        ///< kNm
+    double deflection;    ///< mm, of each span
     double reinforcement; ///< cm², concrete only
+    double crack;         ///< width in mm, concrete only
 };
 
 /// An estimate by the formulas of preliminary design: continuous beams of equal spans, pinned columns.
@@ -71,6 +81,8 @@ struct FrameResult
 FrameResult calculate_frame(const FrameModel& model, FrameAnalysis analysis);
 /// Storey 0 is the lowest.
 StoreyResult calculate_storey(const FrameModel& model, FrameAnalysis analysis, int storey);
+/// Of one column against bending, Nm².
+double column_stiffness(const FrameModel& model);
 
 /// A doubly symmetric I-section of plates, sizes in mm.
 struct ISection

@@ -11,6 +11,7 @@ void register_language_tables(const std::vector<DemoModule>& modules)
         table->LoadResourceHeaderByDLL(module.headerResource, kHeaderType, module.instance);
         INIResourceManager::AppendMap(project_name(module.instance), table);
     }
+    INIResourceManager::InitINIResourceMgr();
 }
 
 CString program_folder()

@@ -33,6 +33,7 @@ constexpr CommandDialog kCommandDialogs[] = {
 BEGIN_MESSAGE_MAP(CMainWindow, CFrameWnd)
 ON_WM_PAINT()
 ON_WM_ENTERIDLE()
+ON_WM_CONTEXTMENU()
 ON_COMMAND_RANGE(ID_MODEL_SETTINGS, ID_MODEL_MEMBERS, &CMainWindow::OnOpenDialog)
 ON_COMMAND_RANGE(ID_ANALYSIS_LOADS, ID_ANALYSIS_LOADS, &CMainWindow::OnOpenDialog)
 ON_COMMAND_RANGE(ID_HELP_ABOUT, ID_HELP_ABOUT, &CMainWindow::OnOpenDialog)
@@ -128,6 +129,8 @@ void CMainWindow::ShowLanguage()
     m_font.CreatePointFont(90, CMSGFunction::GetFont());
     m_count = count_menu_texts(IDR_MAINFRAME);
     CheckMenu();
+    m_formSize = m_form->GetTotalSize(); // another language may have another font of dialogs
+    RecalcLayout();
     m_pane.Arrange();
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
@@ -204,6 +207,27 @@ void CMainWindow::OnOpenDialog(UINT id)
 
 void CMainWindow::OnLanguage(UINT id) { SetLanguage(static_cast<int>(id - ID_LANGUAGE_FIRST)); }
 
+CMenu* CMainWindow::LoadPictureMenu(CMenu& menu) const
+{
+    if (!menu.LoadMenu(IDR_MAINFRAME))
+        return nullptr;
+    INIResourceManager::LoadMenuToINITranslate(project_name(AfxGetInstanceHandle()), menu.m_hMenu);
+    CMenu* const view = menu.GetSubMenu(kViewMenu);
+    view->CheckMenuItem(ID_VIEW_GRID, m_bGrid ? MF_CHECKED : MF_UNCHECKED);
+    view->CheckMenuItem(ID_VIEW_NODES, m_bNodes ? MF_CHECKED : MF_UNCHECKED);
+    return view;
+}
+
+void CMainWindow::OnContextMenu(CWnd* window, CPoint point)
+{
+    CMenu menu;
+    CMenu* const view = window == &m_picture ? LoadPictureMenu(menu) : nullptr;
+    if (view)
+        view->TrackPopupMenu(TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RIGHTBUTTON, point.x, point.y, this);
+    else
+        Default();
+}
+
 void CMainWindow::OnViewOption(UINT id)
 {
     bool& option = id == ID_VIEW_GRID ? m_bGrid : m_bNodes;
@@ -217,18 +241,15 @@ void CMainWindow::OnWizard()
     CStructureWizard wizard(this);
     if (wizard.DoModal() != ID_WIZFINISH)
         return;
-    const FrameModel limits = m_model;
-    m_model = wizard.GetModel();
-    m_model.utilisationLimit = limits.utilisationLimit;
-    m_model.warnsNearLimit = limits.warnsNearLimit;
+    m_model = wizard.GetModel(m_model);
     m_form->ShowModel();
     Invalidate();
     m_picture.Invalidate();
     if (wizard.RunsAnalysis())
-        run_analysis(m_model, m_form->GetAnalysis());
+        run_analysis(m_model, m_form->GetAnalysis(), m_settings);
 }
 
-void CMainWindow::OnAnalysisControl() { CAnalysisControl(this).DoModal(); }
+void CMainWindow::OnAnalysisControl() { CAnalysisControl(m_settings, this).DoModal(); }
 void CMainWindow::OnLimits() { CLimitsDlg(m_model, this).DoModal(); }
 
 void CMainWindow::OnCheckModel()
@@ -240,5 +261,5 @@ void CMainWindow::OnCheckModel()
 void CMainWindow::OnRunAnalysis()
 {
     m_form->TakeModel();
-    run_analysis(m_model, m_form->GetAnalysis());
+    run_analysis(m_model, m_form->GetAnalysis(), m_settings);
 }

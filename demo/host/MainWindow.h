@@ -1,5 +1,6 @@
 #pragma once
 #include "demo/common/DemoModule.h"
+#include "demo/host/AnalysisSettings.h"
 #include "demo/host/MessagePane.h"
 #include "demo/host/ModelForm.h"
 #include "demo/host/ModelPicture.h"
@@ -12,6 +13,8 @@
 class CMainWindow : public CFrameWnd
 {
 public:
+    static constexpr int kViewMenu = 3; ///< its place in the menu bar
+
     CMainWindow(std::vector<DemoModule> modules, int language);
 
     /// FALSE when the window did not come up; the object is gone then.
@@ -25,10 +28,15 @@ public:
     CMessagePane& GetPane() { return m_pane; }
     CSectionTool& GetTool() { return m_tool; }
     FrameModel& GetModel() { return m_model; }
+    AnalysisSettings& GetSettings() { return m_settings; }
 
     /// Opens the popup at this place of the menu bar and calls \p shown once it is on the screen; closes it
     /// then.
     void ShowPopup(int position, void (*shown)(void* context), void* context);
+
+    /// Loads the menu of a right click on the model's picture, in the language in force: the popup "View" of
+    /// the menu bar. Null when it cannot be loaded.
+    CMenu* LoadPictureMenu(CMenu& menu) const;
 
     void RecalcLayout(BOOL bNotify = TRUE) override;
 
@@ -38,6 +46,7 @@ protected:
     afx_msg void OnEnterIdle(UINT why, CWnd* who);
     afx_msg void OnOpenDialog(UINT id);
     afx_msg void OnLanguage(UINT id);
+    afx_msg void OnContextMenu(CWnd* window, CPoint point);
     afx_msg void OnViewOption(UINT id);
     afx_msg void OnViewExtents() { m_picture.Invalidate(); }
     afx_msg void OnFileExit() { SendMessage(WM_CLOSE); }
@@ -57,6 +66,7 @@ private:
     std::vector<DemoModule> m_modules;
     int m_language;
     FrameModel m_model;
+    AnalysisSettings m_settings;
     CModelForm* m_form = nullptr; ///< deletes itself with its window
     CSize m_formSize;
     CModelPicture m_picture;

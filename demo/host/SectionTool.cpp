@@ -3,6 +3,14 @@
 #include "demo/host/Catalogue.h"
 #include "tarvo/msg/MsgOut.h"
 
+#include <algorithm>
+#include <iterator>
+
+namespace
+{
+constexpr int kRatios[] = {200, 250, 300, 500}; // in the order of the list
+}
+
 BEGIN_MESSAGE_MAP(CSectionTool, CInternationalDlg)
 ON_BN_CLICKED(IDC_ST_CALCULATE, &CSectionTool::OnCalculate)
 END_MESSAGE_MAP()
@@ -48,19 +56,28 @@ BOOL CLimitsDlg::OnInitDialog()
 {
     CInternationalDlg::OnInitDialog();
     show_number(*this, IDC_LM_UTILISATION, m_model.utilisationLimit, 2);
-    SetDlgItemText(IDC_LM_CRACK, L"0.30");
+    show_number(*this, IDC_LM_CRACK, m_model.crackLimit, 2);
     CheckDlgButton(IDC_LM_WARN, m_model.warnsNearLimit ? BST_CHECKED : BST_UNCHECKED);
+    CheckDlgButton(IDC_LM_ONCE, m_model.listsEachOnce ? BST_CHECKED : BST_UNCHECKED);
     return TRUE;
 }
 
 void CLimitsDlg::SetText()
 {
+    const bool first = SendDlgItemMessage(IDC_LM_DEFLECTION, CB_GETCOUNT) == 0;
     fill_with_texts(*this, IDC_LM_DEFLECTION, {L"L/200", L"L/250", L"L/300", L"L/500"});
+    const auto* const chosen = std::find(std::begin(kRatios), std::end(kRatios), m_model.deflectionRatio);
+    if (first && chosen != std::end(kRatios))
+        SendDlgItemMessage(IDC_LM_DEFLECTION, CB_SETCURSEL, static_cast<WPARAM>(chosen - kRatios));
 }
 
 void CLimitsDlg::OnOK()
 {
     m_model.utilisationLimit = entered_number(*this, IDC_LM_UTILISATION);
+    const LRESULT chosen = SendDlgItemMessage(IDC_LM_DEFLECTION, CB_GETCURSEL);
+    m_model.deflectionRatio = chosen == CB_ERR ? m_model.deflectionRatio : kRatios[chosen];
+    m_model.crackLimit = entered_number(*this, IDC_LM_CRACK);
+    m_model.listsEachOnce = IsDlgButtonChecked(IDC_LM_ONCE) == BST_CHECKED;
     m_model.warnsNearLimit = IsDlgButtonChecked(IDC_LM_WARN) == BST_CHECKED;
     CInternationalDlg::OnOK();
 }

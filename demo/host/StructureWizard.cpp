@@ -50,6 +50,20 @@ BOOL CWizardStep::OnSetActive()
     return CDataPage::OnSetActive();
 }
 
+CSectionsStep::CSectionsStep() : CWizardStep(sections(), PSWIZB_BACK | PSWIZB_NEXT) {}
+
+BOOL CSectionsStep::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    if (HIWORD(wParam) == CBN_SELCHANGE)
+    {
+        const auto chosen =
+            static_cast<WPARAM>(SendDlgItemMessage(static_cast<int>(LOWORD(wParam)), CB_GETCURSEL));
+        for (const int combo : {IDC_WS_MATERIAL, IDC_WS_COLUMN, IDC_WS_BEAM})
+            SendDlgItemMessage(combo, CB_SETCURSEL, chosen);
+    }
+    return CWizardStep::OnCommand(wParam, lParam);
+}
+
 CSummaryStep::CSummaryStep(const CStructureWizard& wizard)
     : CWizardStep(summary(), PSWIZB_BACK | PSWIZB_FINISH), m_wizard(wizard)
 {
@@ -71,12 +85,11 @@ void CSummaryStep::SetText()
 
 CStructureWizard::CStructureWizard(CWnd* parent)
     : CShownSheet(L"", parent), m_geometry(geometry(), PSWIZB_NEXT),
-      m_sections(sections(), PSWIZB_BACK | PSWIZB_NEXT), m_loads(loads(), PSWIZB_BACK | PSWIZB_NEXT),
-      m_summary(*this)
+      m_loads(loads(), PSWIZB_BACK | PSWIZB_NEXT), m_summary(*this)
 {
     SetWizardMode();
     for (CWizardStep* const step :
-         {&m_geometry, &m_sections, &m_loads, static_cast<CWizardStep*>(&m_summary)})
+         std::initializer_list<CWizardStep*>{&m_geometry, &m_sections, &m_loads, &m_summary})
         AddPage(step);
 }
 
@@ -91,14 +104,29 @@ FrameModel CStructureWizard::GetModel() const
         model.height = entered_number(m_geometry, IDC_WG_HEIGHT);
     }
     if (m_sections.m_hWnd)
+    {
         model.material = static_cast<FrameMaterial>(
             ::SendDlgItemMessageW(m_sections.m_hWnd, IDC_WS_MATERIAL, CB_GETCURSEL, 0, 0));
+        model.rigid = m_sections.IsDlgButtonChecked(IDC_WS_RIGID) == BST_CHECKED;
+    }
     if (m_loads.m_hWnd)
     {
         model.dead = entered_number(m_loads, IDC_WL_DEAD);
         model.live = entered_number(m_loads, IDC_WL_LIVE);
         model.wind = entered_number(m_loads, IDC_WL_WIND);
+        model.combines = m_loads.IsDlgButtonChecked(IDC_WL_COMBINE) == BST_CHECKED;
     }
+    return model;
+}
+
+FrameModel CStructureWizard::GetModel(const FrameModel& limits) const
+{
+    FrameModel model = GetModel();
+    model.utilisationLimit = limits.utilisationLimit;
+    model.deflectionRatio = limits.deflectionRatio;
+    model.crackLimit = limits.crackLimit;
+    model.warnsNearLimit = limits.warnsNearLimit;
+    model.listsEachOnce = limits.listsEachOnce;
     return model;
 }
 

@@ -16,6 +16,16 @@ private:
     DWORD m_buttons;
 };
 
+/// The second step: the sections are those of the material.
+class CSectionsStep : public CWizardStep
+{
+public:
+    CSectionsStep();
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+};
+
 class CStructureWizard;
 
 /// The last step tells what the entries of the others make.
@@ -40,6 +50,8 @@ public:
 
     /// What has been entered; a step that was not shown leaves what a new structure has.
     FrameModel GetModel() const;
+    /// The same with the limits of another model, which the wizard does not ask for.
+    FrameModel GetModel(const FrameModel& limits) const;
     bool RunsAnalysis() const { return m_bRun; }
 
 protected:
@@ -47,7 +59,7 @@ protected:
 
 private:
     CWizardStep m_geometry;
-    CWizardStep m_sections;
+    CSectionsStep m_sections;
     CWizardStep m_loads;
     CSummaryStep m_summary;
     FrameModel m_model;

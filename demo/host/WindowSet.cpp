@@ -68,7 +68,7 @@ bool with_all_windows(CMainWindow& main, const std::function<void(const std::vec
         {L"IDD_LIMITS", IDD_LIMITS, limits.m_hWnd, limits.m_hWnd, alone}};
 
     bool used = false;
-    CAnalysisControl control(&main);
+    CAnalysisControl control(main.GetSettings(), &main);
     CStructureWizard wizard(&main);
     const bool shown = control.ShowTo([&] {
         place(control, 40, 385);

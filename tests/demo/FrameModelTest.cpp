@@ -45,6 +45,20 @@ TEST(DemoFrame, CriticalFactorIsEulersLoadOfTheInnerColumn)
               calculate_storey(model, FrameAnalysis::linear, 0).utilisation * 1.29);
 }
 
+TEST(DemoFrame, BeamsOnHingesBendMoreAndHaveLargerMoments)
+{
+    FrameModel model;
+    model.selfWeight = false;
+    const StoreyResult rigid = calculate_storey(model, FrameAnalysis::linear, 0);
+    EXPECT_NEAR(178.2, rigid.moment, 0.001);
+    // 0.4 * 5/384 * 35 kN/m * 6⁴ m⁴ / (21000 kN/cm² * 11770 cm⁴)
+    EXPECT_NEAR(9.559, rigid.deflection, 0.001);
+    model.rigid = false;
+    const StoreyResult hinged = calculate_storey(model, FrameAnalysis::linear, 0);
+    EXPECT_NEAR(1.25 * rigid.moment, hinged.moment, 0.001);
+    EXPECT_NEAR(2.5 * rigid.deflection, hinged.deflection, 0.001);
+}
+
 TEST(DemoFrame, ConcreteNeedsReinforcement)
 {
     FrameModel model;
@@ -52,6 +66,8 @@ TEST(DemoFrame, ConcreteNeedsReinforcement)
     model.material = FrameMaterial::concrete;
     // 17820 kNcm / (0.9 * 45 cm * 43.5 kN/cm²)
     EXPECT_NEAR(10.115, calculate_storey(model, FrameAnalysis::linear, 0).reinforcement, 0.001);
+    // 200 mm * 43.5 kN/cm² / 20000 kN/cm², at 35 of 49.5 kN/m
+    EXPECT_NEAR(0.3076, calculate_storey(model, FrameAnalysis::linear, 0).crack, 0.0001);
 }
 
 TEST(DemoFrame, MemberWithoutLengthAndCaseWithoutLoadsAreFound)
