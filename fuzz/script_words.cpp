@@ -1,4 +1,5 @@
 #include "fuzz/require.h"
+#include "tarvo/restools/Resources.h"
 #include "tarvo/restools/ScriptWords.h"
 #include "tarvo/text/TextDecode.h"
 
@@ -6,7 +7,8 @@
 #include <vector>
 
 // The words of any line are those that the rules give when they are followed step by step: first every pair
-// of quotes is replaced in a copy, then the copy is walked over unit by unit.
+// of quotes is replaced in a copy, then the copy is walked over unit by unit. A control has those that its
+// rule counts.
 namespace
 {
 using Words = std::vector<std::u16string>;
@@ -64,7 +66,7 @@ Words ByTheWalker(std::u16string_view line, WordSeparators separators)
 {
     CTextArena keep;
     const CScriptMarks marks(line);
-    CScriptWords walker(line.data(), marks, 0, line.size(), keep);
+    CScriptWords walker(marks, 0, line.size(), keep);
     walker.EndWordsAt(separators);
     Words words;
     for (std::u16string_view word; walker.Next(word);)
@@ -72,20 +74,35 @@ Words ByTheWalker(std::u16string_view line, WordSeparators separators)
     return words;
 }
 
-// The fields behind the first, found from behind the \p count words at blanks and commas.
-Words FieldsFrom(std::u16string_view line, std::size_t count)
+// Where a control's words stand among those at blanks and commas, and its fields among those at commas.
+struct Places
 {
-    CTextArena keep;
-    const CScriptMarks marks(line);
-    CScriptWords walker(line.data(), marks, 0, line.size(), keep);
-    std::u16string_view word;
-    while (count-- != 0)
-        walker.Next(word);
-    CScriptWords fields = walker.SecondField(word);
-    Words words;
-    while (fields.Next(word))
-        words.emplace_back(word);
-    return words;
+    std::u16string_view keyword;
+    std::size_t text, id, type, style, exStyle;
+};
+constexpr Places places[] = {
+    {u"CONTROL", 1, 2, 3, 3, 8}, {u"LTEXT", 1, 2, 0, 6, 7}, {u"EDITTEXT", 99, 1, 0, 5, 6}};
+
+// A dialog with the line as its control has the words that stand at the rule's places.
+void CheckControl(std::u16string_view line, const Words& words, Words fields, const Places& rule)
+{
+    const auto at = [](const Words& all, std::size_t number) {
+        return number < all.size() ? all[number] : std::u16string();
+    };
+    for (std::u16string& field : fields)
+        std::erase(field, u' ');
+    const std::u16string script = u"\uFEFFD DIALOG 0,0\nBEGIN\n" + std::u16string(line) + u"\nEND\n";
+    CResources resources;
+    CString log;
+    CStringArray languages;
+    resources.ReadMemory({reinterpret_cast<const char*>(script.data()), 2 * script.size()}, log, L"",
+                         languages);
+    const CResDialogControl& control = resources.Dialogs().GetAt(0).m_items.GetAt(0);
+    Require(control.m_strText == at(words, rule.text) && control.m_strID == at(words, rule.id) &&
+                control.m_strType == at(words, rule.type) && control.m_strStyle == at(fields, rule.style) &&
+                control.m_strExStyle == at(fields, rule.exStyle) &&
+                control.m_strHelpID == at(fields, rule.exStyle + 1),
+            "a control has the words at the rule's places");
 }
 } // namespace
 
@@ -97,10 +114,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     Require(ByTheWalker(line, WordSeparators::Standard) == standard, "the words are what the rules give");
     Words fields = ByTheRules(line, u",");
     Require(ByTheWalker(line, WordSeparators::Comma) == fields, "the fields are too");
-    if (!fields.empty())
-        fields.erase(fields.begin());
-    for (std::size_t i = 0; i < 4; ++i)
-        Require(FieldsFrom(line, i) == fields, "the second field is found from anywhere");
+    for (const Places& rule : places)
+        if (!standard.empty() && standard[0] == rule.keyword && line.find_first_of(u"\r\n") == line.npos)
+            CheckControl(line, standard, fields, rule);
     for (std::size_t i = 0; i <= standard.size() && i < 8; ++i)
         Require(ScriptWord(line, i, WordSeparators::Standard) ==
                     (i < standard.size() ? standard[i] : std::u16string()),

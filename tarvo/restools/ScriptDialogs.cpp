@@ -1,3 +1,4 @@
+#include "tarvo/restools/ScriptControls.h"
 #include "tarvo/restools/ScriptReader.h"
 
 #include <algorithm>
@@ -7,39 +8,10 @@
 
 namespace
 {
-/// Where a control's statement keeps what the model takes. Text, ID and class are counted in words between
-/// blanks and commas, the rest in words between commas alone, of which a keyword and the text behind it
-/// are one.
-struct ControlRule
-{
-    std::u16string_view keyword;
-    bool hasText;
-    bool hasClass;     ///< the type is the word behind the ID
-    std::size_t style; ///< the extended style follows it directly, except where hasClass
-};
-
-// control ::= CONTROL text "," id "," class "," style "," x "," y "," w "," h ["," exstyle ["," help]]
-//           | text-keyword text "," id "," x "," y "," w "," h ["," style ["," exstyle ["," help]]]
-//           | plain-keyword id "," x "," y "," w "," h ["," style ["," exstyle ["," help]]]
-// In the order of their keywords.
-constexpr ControlRule controlRules[] = {
-    {u"CONTROL", true, true, 3},     {u"LTEXT", true, false, 6},         {u"RTEXT", true, false, 6},
-    {u"CTEXT", true, false, 6},      {u"ICON", true, false, 6},          {u"GROUPBOX", true, false, 6},
-    {u"PUSHBUTTON", true, false, 6}, {u"DEFPUSHBUTTON", true, false, 6}, {u"EDITTEXT", false, false, 5},
-    {u"COMBOBOX", false, false, 5},  {u"LISTBOX", false, false, 5},      {u"SCROLLBAR", false, false, 5},
-};
-
 constexpr CScriptKeywords headBeginnings(ScriptKeyword::Style, ScriptKeyword::ExStyle, ScriptKeyword::Caption,
                                          ScriptKeyword::Font, ScriptKeyword::Begin);
 constexpr CScriptKeywords bodyBeginnings =
     CScriptKeywords(ScriptKeyword::End).With(ScriptKeyword::Control, ScriptKeyword::ScrollBar);
-
-bool IsControl(ScriptKeyword keyword) { return keyword >= ScriptKeyword::Control; }
-
-const ControlRule& RuleOf(ScriptKeyword keyword)
-{
-    return controlRules[static_cast<std::size_t>(keyword) - static_cast<std::size_t>(ScriptKeyword::Control)];
-}
 
 // The value of a text of digits alone, held at the largest int; 0 of every other.
 int NumberOf(CResText text)
@@ -95,7 +67,7 @@ bool CScriptReader::ReadDialogHead(CResDialog& dialog)
 CResText CScriptReader::ReadStyle()
 {
     constexpr std::u16string_view keyword = u"STYLE";
-    std::u16string_view rest = m_lines.TakeStatement(headBeginnings).text;
+    std::u16string_view rest = m_lines.TakeStatement(headBeginnings).words.Line();
     std::u16string text;
     for (std::size_t at; (at = rest.find(keyword)) != std::u16string_view::npos;
          rest.remove_prefix(at + keyword.size()))
@@ -119,7 +91,7 @@ void CScriptReader::ReadDialogBody(CResDialog& dialog)
         }
         isOpen = line.keyword != ScriptKeyword::End;
         if (isOpen)
-            Log(u"Strange dialog line: ", line.text);
+            Log(u"Strange dialog line: ", line.words.Line());
         m_lines.Take();
     }
     dialog.m_items.Assign(m_controls);
@@ -127,24 +99,16 @@ void CScriptReader::ReadDialogBody(CResDialog& dialog)
 
 void CScriptReader::ReadControl()
 {
-    const ControlRule& rule = RuleOf(m_lines.At().keyword);
-    CScriptLine statement = m_lines.TakeStatement(bodyBeginnings);
+    const CControlRule& rule = ControlRuleOf(m_lines.At().keyword);
+    const CScriptLine& statement = m_lines.TakeStatement(bodyBeginnings);
     CResDialogControl& control = m_controls.emplace_back();
-    control.m_nLine = statement.number;
-    CScriptWords& words = statement.words;
-    CResText word = words.Next();
-    CScriptWords fields = words.SecondField(word);
-    if (rule.hasText)
-        control.m_strText = std::exchange(word, words.Next());
-    control.m_strID = word;
-    control.m_strType = rule.hasClass ? words.Next() : rule.keyword;
-    if (rule.hasClass)
-        control.m_nNumber = NumberOf(control.m_strText);
-
-    fields.Skip(rule.style - 1);
+    CScriptWords fields = FindControlWords(rule, statement.words, control);
     control.m_strStyle = WithoutSpaces(fields.Next());
     if (rule.hasClass)
         fields.Skip(4); // place and size
     control.m_strExStyle = WithoutSpaces(fields.Next());
     control.m_strHelpID = WithoutSpaces(fields.Next());
+    if (rule.hasClass)
+        control.m_nNumber = NumberOf(control.m_strText);
+    control.m_nLine = statement.number;
 }

@@ -1,10 +1,9 @@
 #include "tarvo/restools/ScriptKeywords.h"
 
-#include "tarvo/text/Units.h"
-
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstring>
 
 namespace
 {
@@ -39,6 +38,25 @@ constexpr bool AllHaveTheirPlace()
     return true;
 }
 static_assert(AllHaveTheirPlace());
+
+std::uint64_t FourUnits(const char16_t* at)
+{
+    std::uint64_t four;
+    std::memcpy(&four, at, sizeof four);
+    return four;
+}
+
+/// Two words of the same length, by steps whose number does not depend on it.
+bool AreEqual(const char16_t* a, const char16_t* b, std::size_t size)
+{
+    static_assert(shortest == 3 && longest <= 16);
+    if (size == shortest)
+        return a[0] == b[0] && a[1] == b[1] && a[2] == b[2];
+    const std::size_t last = size - 4;
+    const auto differ = [a, b](std::size_t at) { return FourUnits(a + at) ^ FourUnits(b + at); };
+    return (differ(0) | differ(std::min<std::size_t>(4, last)) | differ(std::min<std::size_t>(8, last)) |
+            differ(last)) == 0;
+}
 } // namespace
 
 ScriptKeyword FindScriptKeyword(Word word)
@@ -46,5 +64,8 @@ ScriptKeyword FindScriptKeyword(Word word)
     if (word.size() < shortest || word.size() > longest)
         return ScriptKeyword::None;
     const ScriptKeyword keyword = places[PlaceOf(word)];
-    return units::equal(word, words[static_cast<std::size_t>(keyword)]) ? keyword : ScriptKeyword::None;
+    const Word known = words[static_cast<std::size_t>(keyword)];
+    return known.size() == word.size() && AreEqual(word.data(), known.data(), known.size())
+               ? keyword
+               : ScriptKeyword::None;
 }

@@ -12,9 +12,9 @@ bool CScriptLines::NextLine(std::size_t needed)
     while (ahead() <= 2 && m_text.Grow(needed))
     {
     }
-    m_begin = m_end;
-    m_begin += m_text.Units()[m_begin] == u'\r'; // what stands behind the end of the text is neither
-    m_begin += m_text.Units()[m_begin] == u'\n';
+    const char16_t* const behind = m_text.Units() + m_end; // zeros at the end of the text
+    const bool isReturn = behind[0] == u'\r';
+    m_begin = m_end + isReturn + ((isReturn ? behind[1] : behind[0]) == u'\n');
     m_number += m_begin != m_end;
     m_end = m_text.Marks().Find(m_begin, m_text.GetLength(), breaks);
     while (ahead() == 0 && m_text.Grow(needed))
@@ -24,18 +24,18 @@ bool CScriptLines::NextLine(std::size_t needed)
 
 bool CScriptLines::FindLine(std::size_t needed)
 {
+    CScriptLine& line = m_lines[m_current];
     for (bool isBlank = true; isBlank;)
     {
         if (!NextLine(needed))
             return false;
-        m_line.words = CScriptWords(m_text.Units(), m_text.Marks(), m_begin, m_end, m_keep);
-        m_line.text = {m_text.Units() + m_begin, m_end - m_begin};
+        line.words = CScriptWords(m_text.Marks(), m_begin, m_end, m_keep);
         // A line without a word may still hold commas or a quote.
-        isBlank = !m_line.words.Next(m_line.first) &&
-                  m_line.text.find_first_not_of(u" \t") == std::u16string_view::npos;
+        isBlank = !line.words.Next(line.first) &&
+                  line.words.Line().find_first_not_of(u" \t") == std::u16string_view::npos;
     }
-    m_line.number = m_number;
-    m_line.keyword = FindScriptKeyword(m_line.first);
+    line.number = m_number;
+    line.keyword = FindScriptKeyword(line.first);
     m_hasLine = true;
     return true;
 }
@@ -56,14 +56,15 @@ bool CScriptLines::EndsOutsideSpan(std::size_t begin, std::size_t end) const
 }
 
 // Lines stay where they are as long as the breaks between them can stand for spaces.
-CScriptLine CScriptLines::TakeStatement(CScriptKeywords beginnings)
+const CScriptLine& CScriptLines::TakeStatement(CScriptKeywords beginnings)
 {
-    CScriptLine statement = m_line;
+    CScriptLine& statement = m_lines[m_current];
+    m_current = 1 - m_current;
     const std::size_t begin = m_begin;
     std::size_t last = begin; // where the last line that stays begins
     std::size_t end = m_end;  // and where it ends
     std::u16string joined;    // all lines, from the first one on that cannot stay
-    for (Take(); FindLine(begin) && !beginnings.Hold(m_line.keyword); Take())
+    for (Take(); FindLine(begin) && !beginnings.Hold(At().keyword); Take())
     {
         const bool isNext = m_begin - end <= 2; // not even a blank between
         if (joined.empty() && isNext && EndsOutsideSpan(last, end))
@@ -77,20 +78,17 @@ CScriptLine CScriptLines::TakeStatement(CScriptKeywords beginnings)
             joined.assign(m_text.Units() + begin, end - begin);
             std::replace_if(joined.begin(), joined.end(), IsScriptBreak, u' ');
         }
-        joined.append(u" ").append(m_line.text);
+        joined.append(u" ").append(At().words.Line());
     }
-    if (!joined.empty())
+    if (joined.empty() && last == begin)
+        return statement;
+    if (joined.empty())
+        statement.words = CScriptWords(m_text.Marks(), begin, end, m_keep);
+    else
     {
-        statement.text = m_keep.Copy(joined);
-        m_joined = CScriptMarks(statement.text);
-        statement.words = CScriptWords(statement.text.data(), m_joined, 0, joined.size(), m_keep);
-        statement.first = statement.words.Next();
+        m_joined = CScriptMarks(m_keep.Copy(joined));
+        statement.words = CScriptWords(m_joined, 0, joined.size(), m_keep);
     }
-    else if (last != begin)
-    {
-        statement.text = {m_text.Units() + begin, end - begin};
-        statement.words = CScriptWords(m_text.Units(), m_text.Marks(), begin, end, m_keep);
-        statement.first = statement.words.Next();
-    }
+    statement.first = statement.words.Next();
     return statement;
 }

@@ -1,24 +1,23 @@
 #include "tarvo/restools/ScriptMarks.h"
 
-#include "tarvo/text/UnitBlock.h"
+#include "tarvo/text/PackedUnits.h"
+
+#include <algorithm>
 
 namespace
 {
 static_assert(CScriptMarks::Count == CUnitBlock::kCount);
 
-CScriptMarks::Block MarkUnits(const char16_t* units)
+inline CScriptMarks::Block MarkUnits(const char16_t* units)
 {
-    const CUnitBlock block(units);
-    CScriptMarks::Block marks;
-    marks.breaks = block.Equal(u'\n') | block.Equal(u'\r');
-    marks.quotes = block.Equal(u'"');
-    marks.commas = block.Equal(u',');
-    marks.separators = marks.commas | block.Equal(u' ') | block.Equal(u'\t');
-    return marks;
+    const CPackedUnits packed(units);
+    return {packed.AnyOf('\n', '\r'), packed.AnyOf('"'), packed.AnyOf(','), packed.AnyOf(',', ' ', '\t')};
 }
+
+std::ptrdiff_t Distance(std::size_t blocks) { return static_cast<std::ptrdiff_t>(blocks); }
 } // namespace
 
-CScriptMarks::CScriptMarks(std::u16string_view line) : m_blocks(line.size() / Count + 3)
+CScriptMarks::CScriptMarks(std::u16string_view line) : m_text(line.data()), m_blocks(line.size() / Count + 3)
 {
     Block* out = m_blocks.data();
     for (; line.size() >= Count; line.remove_prefix(Count))
@@ -30,16 +29,23 @@ CScriptMarks::CScriptMarks(std::u16string_view line) : m_blocks(line.size() / Co
 
 void CScriptMarks::Grow(const char16_t* text, std::size_t length, std::size_t needed)
 {
+    m_text = text;
     const std::size_t first = needed / Count;
-    m_blocks.erase(m_blocks.begin(), m_blocks.begin() + static_cast<std::ptrdiff_t>(
-                                                            std::min(first - m_first, m_blocks.size())));
-    m_first = first;
     const std::size_t end = (length + Count - 1) / Count;
-    m_blocks.resize(end - first + 2);
-    for (std::size_t number = std::max(m_done, first); number < end; ++number)
+    std::size_t number = m_done; // of the block to be marked
+    if (first < number)
+        std::copy(m_blocks.begin() + Distance(first - m_first), m_blocks.begin() + Distance(number - m_first),
+                  m_blocks.begin());
+    number = std::max(number, first);
+    m_first = first;
+    if (m_blocks.size() < end - first + 2)
+        m_blocks.resize(end - first + 2);
+    Block* block = m_blocks.data() + (number - first);
+    for (; number < end; ++number, ++block)
     {
-        Block& block = m_blocks[number - first] = MarkUnits(text + number * Count);
-        block.separators |= block.breaks;
+        *block = MarkUnits(text + number * Count);
+        block->separators |= block->breaks;
     }
+    block[0] = block[1] = {};
     m_done = length / Count;
 }

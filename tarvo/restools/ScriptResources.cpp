@@ -85,6 +85,7 @@ CResMenuItem CScriptReader::ReadMenuItem(CScriptWords words)
     item.m_strStyle = style.empty() ? CResText() : Keep().Copy(style);
     return item;
 }
+
 // menu ::= name MENU ... { BEGIN | END | menu-item | POPUP text }, until an END has closed every BEGIN
 void CScriptReader::ReadMenu(const CScriptLine& head)
 {
@@ -99,12 +100,12 @@ void CScriptReader::ReadMenu(const CScriptLine& head)
         const ScriptKeyword keyword = m_lines.At().keyword;
         if (keyword == ScriptKeyword::MenuItem || keyword == ScriptKeyword::Popup)
         {
-            CScriptLine statement = m_lines.TakeStatement(menuBeginnings);
+            const CScriptLine& statement = m_lines.TakeStatement(menuBeginnings);
             CResMenuItem item;
             if (keyword == ScriptKeyword::MenuItem)
                 item = ReadMenuItem(statement.words);
             else
-                item = {statement.words.Next(), Numbered(u"POPUP", popups++), {}, 0};
+                item = {CScriptWords(statement.words).Next(), Numbered(u"POPUP", popups++), {}, 0};
             if (keyword == ScriptKeyword::MenuItem && item.m_strText == u"SEPARATOR")
                 item = {{}, Numbered(u"SEPARATOR", separators++), {}, 0};
             item.m_nLine = statement.number;
@@ -116,7 +117,7 @@ void CScriptReader::ReadMenu(const CScriptLine& head)
         else if (keyword == ScriptKeyword::End)
             --depth;
         else
-            Log(u"Unkown line in menu section: ", m_lines.At().text);
+            Log(u"Unkown line in menu section: ", m_lines.At().words.Line());
         m_lines.Take();
         if (keyword == ScriptKeyword::End && depth < 0)
             break;
@@ -142,7 +143,7 @@ void CScriptReader::ReadToolbar(const CScriptLine& head)
         else if (line.keyword == ScriptKeyword::End)
             isOpen = false;
         else
-            Log(u"Unkown toolbar line: ", line.text);
+            Log(u"Unkown toolbar line: ", line.words.Line());
     }
     m_resources.m_toolbars.Append(std::move(toolbar));
 }
@@ -155,17 +156,17 @@ void CScriptReader::ReadStringTable()
     bool isOpen = SkipToBegin();
     while (isOpen && m_lines.Peek())
     {
-        const CScriptLine line = m_lines.At();
-        m_lines.Take();
+        const CScriptLine& line = m_lines.At();
         isOpen = line.keyword != ScriptKeyword::End;
+        CResString string = {line.first, line.words.FromQuote(), line.number};
+        const bool isAlone = line.words.IsAtEnd();
+        m_lines.Take();
         if (!isOpen)
             break;
-        CResText text;
-        if (CScriptWords words = line.words; !words.Next(text))
-            text = ReadAloneText();
-        else
-            text = line.words.FromQuote();
-        m_resources.m_strings.Append({line.first, WithoutOuterQuotes(text), line.number});
+        if (isAlone)
+            string.m_strText = ReadAloneText();
+        string.m_strText = WithoutOuterQuotes(string.m_strText);
+        m_resources.m_strings.Append(string);
     }
 }
 
@@ -174,7 +175,7 @@ CResText CScriptReader::ReadAloneText()
 {
     if (!m_lines.Peek() || m_lines.At().keyword == ScriptKeyword::End)
         return {};
-    const CResText text = units::trim(m_lines.At().text);
+    const CResText text = units::trim(m_lines.At().words.Line());
     m_lines.Take();
     return text;
 }

@@ -3,29 +3,22 @@
 #include <algorithm>
 #include <bit>
 
+namespace
+{
+std::uint32_t Place(std::size_t place) { return static_cast<std::uint32_t>(place); }
+} // namespace
+
 void CScriptWords::EndWordsAt(WordSeparators separators)
 {
-    m_blankBits = separators == WordSeparators::Standard ? ~std::uint64_t{0} : 0;
+    m_blanksSeparate = separators == WordSeparators::Standard;
 }
 
-// Where this walk has just passed over the first comma word, it need not be done again: when nothing before
-// the word separates at a comma or opens a span, and the word's quotes or its comma end it.
-CScriptWords CScriptWords::SecondField(std::u16string_view word) const
+CScriptWords CScriptWords::FieldsFrom(std::size_t at) const
 {
     CScriptWords words = *this;
+    words.m_at = static_cast<std::uint32_t>(at);
+    words.m_inSpan = false;
     words.EndWordsAt(WordSeparators::Comma);
-    const std::size_t mark =
-        m_marks->Find(m_begin, m_at, [](const auto& block) { return block.quotes | block.commas; });
-    const char16_t* const at = m_text + m_at;
-    const bool isQuoted =
-        word.data() == m_text + mark + 1 && word.data() + word.size() + 1 == at && at[-1] == u'"';
-    const bool isPlain = mark + 1 == m_at && m_text[mark] == u',';
-    if (m_inSpan || !(isQuoted || isPlain))
-    {
-        words.m_at = m_begin;
-        words.m_inSpan = false;
-        words.Skip(1);
-    }
     return words;
 }
 
@@ -35,10 +28,10 @@ bool CScriptWords::FindWord(bool& isEmpty)
 {
     while (true)
     {
-        m_at = m_marks->Find(m_at, m_end, [this](const auto& block) { return ~Separators(block); });
+        m_at = Place(m_marks->Find(m_at, m_end, [this](const auto& block) { return ~Separators(block); }));
         if (m_at == m_end)
             return false;
-        if (m_text[m_at] != u'"' || IsPair(m_at) || IsEscaped(m_at))
+        if (Text()[m_at] != u'"' || IsPair(m_at) || IsEscaped(m_at))
             return true;
         ++m_at;
         isEmpty = m_inSpan;
@@ -65,7 +58,7 @@ bool CScriptWords::Scan(Raw& raw)
             at, m_end, [=, this](const auto& block) { return block.quotes | (Separators(block) & outside); });
         if (at == m_end)
             break;
-        if (m_text[at] != u'"') // a separator
+        if (Text()[at] != u'"') // a separator
         {
             ++at;
             break;
@@ -91,7 +84,7 @@ bool CScriptWords::Scan(Raw& raw)
             ++at;
         }
     }
-    m_at = at;
+    m_at = Place(at);
     return true;
 }
 
@@ -101,7 +94,7 @@ std::u16string_view CScriptWords::Compose(const Raw& raw)
     char16_t* out = begin;
     for (std::size_t at = raw.first; at != raw.last; ++at)
     {
-        const bool isQuote = m_text[at] == u'"';
+        const bool isQuote = Text()[at] == u'"';
         if (isQuote && IsPair(at))
         {
             *out++ = u'\\';
@@ -109,7 +102,7 @@ std::u16string_view CScriptWords::Compose(const Raw& raw)
             ++at;
         }
         else if (!isQuote || IsEscaped(at))
-            *out++ = m_text[at];
+            *out++ = Text()[at];
     }
     return {begin, static_cast<std::size_t>(out - begin)};
 }
@@ -122,7 +115,7 @@ bool CScriptWords::NextOfAll(std::u16string_view& word)
         word = {};
         return false;
     }
-    word = {m_text + raw.first, raw.last - raw.first};
+    word = {Text() + raw.first, raw.last - raw.first};
     if (word == u"\"\"") // by far the most frequent pair, and no copy of it is needed
         word = {};
     else if (!raw.isPlain)
@@ -144,39 +137,50 @@ void CScriptWords::Skip(std::size_t count)
             --count;
 }
 
-// Passes over at most \p count words that end at a separator among the next units, before a quote; gives how
-// many.
+// Passes over at most \p count words that end among the next units, before a quote; gives how many.
 std::size_t CScriptWords::SkipPlain(std::size_t count)
 {
     if (m_inSpan || m_at >= m_end)
         return 0;
-    const std::uint64_t quotes = m_marks->From(m_at, [](const auto& block) { return block.quotes; });
-    std::uint64_t region = quotes ^ (quotes - 1); // up to the first one; without quotes all bits
-    if (m_end - m_at < CScriptMarks::Count)
-        region &= (std::uint64_t{1} << (m_end - m_at)) - 1;
-    const std::uint64_t separators =
-        m_marks->From(m_at, [this](const auto& block) { return Separators(block); }) & region;
+    const CScriptMarks::Block block = m_marks->At(m_at);
+    const std::size_t left = m_end - m_at;
+    std::uint64_t separators = Separators(block), quotes = block.quotes;
+    if (left < CScriptMarks::Count) // a word ends at the line's end too
+    {
+        const std::uint64_t end = std::uint64_t{1} << left;
+        separators = (separators & (end - 1)) | end;
+        quotes &= end - 1;
+    }
+    separators &= quotes ^ (quotes - 1); // up to the first quote; without one all of them
     // Of each run the first, except that no word ends where none has begun.
     std::uint64_t ends = separators & ~(separators << 1) & ~std::uint64_t{1};
     std::size_t skipped = 0;
     std::size_t last = 0;
     for (; skipped < count && ends != 0; ++skipped, ends &= ends - 1)
         last = static_cast<std::size_t>(std::countr_zero(ends)) + 1;
-    m_at += last;
+    m_at = std::min(Place(m_at + last), m_end);
     return skipped;
+}
+
+bool CScriptWords::IsAtEnd() const
+{
+    // Nearly always there is a unit that can only be part of a word.
+    const auto letters = [](const auto& block) { return ~(block.separators | block.quotes); };
+    std::u16string_view word;
+    return m_marks->Find(m_at, m_end, letters) == m_end && !CScriptWords(*this).Next(word);
 }
 
 std::u16string_view CScriptWords::FromQuote() const
 {
     const std::size_t quote = m_marks->Find(m_begin, m_end, [](const auto& block) { return block.quotes; });
-    return {m_text + quote, m_end - quote};
+    return {Text() + quote, m_end - quote};
 }
 
 std::u16string ScriptWord(std::u16string_view line, std::size_t number, WordSeparators separators)
 {
     CTextArena keep;
     const CScriptMarks marks(line);
-    CScriptWords words(line.data(), marks, 0, line.size(), keep);
+    CScriptWords words(marks, 0, line.size(), keep);
     words.EndWordsAt(separators);
     words.Skip(number);
     return std::u16string(words.Next());

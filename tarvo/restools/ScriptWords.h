@@ -31,16 +31,20 @@ class TARVO_API CScriptWords
 {
 public:
     CScriptWords() = default;
-    /// The words of the units from \p begin to \p end of a text. Where it has its breaks marked as
-    /// separators, they stand for blanks.
-    CScriptWords(const char16_t* text, const CScriptMarks& marks, std::size_t begin, std::size_t end,
-                 CTextArena& keep)
-        : m_text(text), m_marks(&marks), m_begin(begin), m_at(begin), m_end(end), m_keep(&keep)
+    /// The words of the units from \p begin to \p end of the text that has these marks. Where they say that
+    /// its breaks separate, a break stands for a blank.
+    CScriptWords(const CScriptMarks& marks, std::size_t begin, std::size_t end, CTextArena& keep)
+        : m_marks(&marks), m_keep(&keep), m_begin(static_cast<std::uint32_t>(begin)), m_at(m_begin),
+          m_end(static_cast<std::uint32_t>(end))
     {
     }
 
     /// Gives the next word; false, and an empty word, past the last.
-    bool Next(std::u16string_view& word) { return NextSimple(word) || NextOfAll(word); }
+    bool Next(std::u16string_view& word)
+    {
+        word = {};
+        return m_at != m_end && (NextSimple(word) || NextOfAll(word));
+    }
     /// The next word; empty past the last.
     std::u16string_view Next()
     {
@@ -52,9 +56,19 @@ public:
     void Skip(std::size_t count);
     /// From here on words end at \p separators; at first at the standard ones.
     void EndWordsAt(WordSeparators separators);
-    /// The words that commas alone separate, from the line's second on. \p word is the word last given.
-    CScriptWords SecondField(std::u16string_view word) const;
+    /// The words that commas alone separate, from \p at on, where none has begun.
+    CScriptWords FieldsFrom(std::size_t at) const;
 
+    const CScriptMarks& Marks() const { return *m_marks; }
+    const char16_t* Text() const { return m_marks->Text(); }
+    /// The places in the text where the line begins and ends, and where this walk stands.
+    std::size_t Begin() const { return m_begin; }
+    std::size_t End() const { return m_end; }
+    std::size_t At() const { return m_at; }
+
+    std::u16string_view Line() const { return {Text() + m_begin, End() - m_begin}; }
+    /// True when no word follows.
+    bool IsAtEnd() const;
     /// Everything from the line's first quote on; empty when there is none.
     std::u16string_view FromQuote() const;
 
@@ -67,11 +81,11 @@ private:
         bool isPlain; ///< no pair and no span's quote inside
     };
 
-    bool IsPair(std::size_t quote) const { return quote + 1 < m_end && m_text[quote + 1] == u'"'; }
-    bool IsEscaped(std::size_t quote) const { return quote != m_begin && m_text[quote - 1] == u'\\'; }
+    bool IsPair(std::size_t quote) const { return quote + 1 < m_end && Text()[quote + 1] == u'"'; }
+    bool IsEscaped(std::size_t quote) const { return quote != m_begin && Text()[quote - 1] == u'\\'; }
     std::uint64_t Separators(const CScriptMarks::Block& block) const
     {
-        return block.commas | (block.separators & m_blankBits);
+        return block.commas | (m_blanksSeparate ? block.separators : 0);
     }
     inline bool NextSimple(std::u16string_view& word);
     bool NextOfAll(std::u16string_view& word);
@@ -80,13 +94,12 @@ private:
     std::size_t SkipPlain(std::size_t count);
     std::u16string_view Compose(const Raw& raw);
 
-    const char16_t* m_text = nullptr;
     const CScriptMarks* m_marks = nullptr;
-    std::size_t m_begin = 0;
-    std::size_t m_at = 0;
-    std::size_t m_end = 0;
     CTextArena* m_keep = nullptr;
-    std::uint64_t m_blankBits = ~std::uint64_t{0}; ///< no bits where commas alone separate
+    std::uint32_t m_begin = 0; // of a script's 64 Mi units at most
+    std::uint32_t m_at = 0;
+    std::uint32_t m_end = 0;
+    bool m_blanksSeparate = true;
     bool m_inSpan = false;
 };
 
@@ -95,11 +108,11 @@ private:
 // end. False, and nothing is done, for every other.
 inline bool CScriptWords::NextSimple(std::u16string_view& word)
 {
-    if (m_inSpan || m_at >= m_end)
+    if (m_inSpan)
         return false;
-    const std::uint64_t separators =
-        m_marks->From(m_at, [this](const auto& block) { return Separators(block); });
-    const std::uint64_t quotes = m_marks->From(m_at, [](const auto& block) { return block.quotes; });
+    const std::size_t at = m_at;
+    const CScriptMarks::Block block = m_marks->At(at);
+    const std::uint64_t separators = Separators(block), quotes = block.quotes;
     const std::size_t first = static_cast<std::size_t>(std::countr_zero(~separators));
     if (first == CScriptMarks::Count)
         return false;
@@ -109,21 +122,21 @@ inline bool CScriptWords::NextSimple(std::u16string_view& word)
     if (stops == 0)
         return false;
     const std::size_t last = static_cast<std::size_t>(std::countr_zero(stops));
-    const char16_t* const text = m_text + m_at;
+    const char16_t* const text = Text() + at;
     if (!isQuoted)
     {
-        if ((quotes >> last & 1) != 0 || m_at + last > m_end)
+        if ((quotes >> last & 1) != 0 || at + last > m_end)
             return false;
         word = {text + first, last - first};
-        m_at += last + (m_at + last != m_end);
+        m_at = std::min(static_cast<std::uint32_t>(at + last + 1), m_end);
         return true;
     }
     const std::uint64_t odd = (separators | quotes) >> 1 >> first | quotes >> 1 >> last;
-    if ((odd & 1) != 0 || last == CScriptMarks::Count - 1 || m_at + last >= m_end ||
-        text[last - 1] == u'\\' || IsEscaped(m_at + first))
+    if ((odd & 1) != 0 || last == CScriptMarks::Count - 1 || at + last >= m_end || text[last - 1] == u'\\' ||
+        IsEscaped(at + first))
         return false;
     word = {text + first + 1, last - first - 1};
-    m_at += last + 1;
+    m_at = static_cast<std::uint32_t>(at + last + 1);
     return true;
 }
 

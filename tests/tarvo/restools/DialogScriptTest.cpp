@@ -1,4 +1,5 @@
 #include "script.h"
+#include "tarvo/restools/ScriptWords.h"
 
 #include <gtest/gtest.h>
 
@@ -174,6 +175,78 @@ TEST(DialogScript, ControlIsTheSameWhereverItsLinesAreBroken)
                     broken.replace(one, 1, lineBreak);
                     ASSERT_EQ(Body(broken), Body(statement)) << broken;
                 }
+}
+
+// Nearly all statements are written alike and are taken apart in a quicker way, which must not show.
+TEST(DialogScript, ControlHasTheWordsThatTheTokenizerGives)
+{
+    const std::string tails[] = {
+        R"( "a, b",ID,"Button",A | B,1,2,3,4,E,H)",
+        R"( "a",ID,1,2,3,4,A | B,E,H)",
+        R"( ID,1,2,3,4,A | B,E,H)",
+        R"( "",ID,"",A,1,2,3,4)",
+        R"(, "a",ID,"B",A,1,2,3,4,E)",
+        R"( "a" x,ID,"B",A,1,2)",
+        R"( "a""b",ID,"B",A,1,2,3,4,E)",
+        R"( "a\"b",ID,"B",A,1,2,3,4,E)",
+        R"( L"a",ID,"B",A,1,2,3,4)",
+        R"( a b,ID,B,A,1,2,3,4,E)",
+        R"( " a",ID,"B",A,1,2,3,4,E)",
+        R"( ",a",ID,"B",A,1,2,3)",
+        R"( "a"ID,"B",A,1,2,3,4,E)",
+        R"( \"a,ID,"B",A,1,2,3,4,E)",
+        R"( "open,ID,"B",A,1,2,3)",
+        R"( "a","ID","B",A,1,2,3,4,E)",
+        R"( ,,a,,ID,,B,,A,1,2,3,4,E)",
+        R"( "a\",ID,"B",A,1,2,3)",
+        R"( "a",ID "B",A,1,2,3,4,E)",
+        R"( "a",ID , "B" ,A,1,2,3,4,E)",
+        R"( "a", ,ID,"B",A,1,2,3,4)",
+        R"( "a",ID,"B"C,A,1,2,3,4,E)",
+        R"( "a",ID,"B""C",A,1,2,3,4,E)",
+        R"( "a",ID,"B\"",A,1,2,3,4)",
+        R"( "a",ID," B",A,1,2,3,4,E)",
+        R"( "a",ID,,"B",A,1,2,3,4,E)",
+        R"( "a",ID,x "B",A,1,2,3,4)",
+        R"( "a",ID)",
+        R"( "a")",
+        R"()",
+        R"( "a",I"D",A)",
+        R"( ID 1,2,3,4,5,6)",
+        R"( ID ,1,2,3,4,5,6)",
+        R"( "a"  ,  ID  ,  "B"  ,A,1,2)",
+        R"( "a",ID,"B" x,A,1)",
+        R"(,,)",
+    };
+    std::vector<std::string> statements;
+    for (const std::string keyword : {"CONTROL", "LTEXT", "EDITTEXT"})
+        for (const std::string& tail : tails)
+            for (const std::size_t length : {0u, 1u, 20u, 40u, 60u, 64u, 100u})
+                statements.push_back(std::string(length, ' ') + keyword + std::string(length / 2, ' ') +
+                                     tail);
+    for (const std::string& statement : statements)
+    {
+        const std::u16string line = Utf16(statement);
+        const auto word = [&](std::size_t number) {
+            return ScriptWord(line, number, WordSeparators::Standard);
+        };
+        const auto field = [&](std::size_t number) {
+            std::u16string text = ScriptWord(line, number, WordSeparators::Comma);
+            std::erase(text, u' ');
+            return text;
+        };
+        const std::u16string keyword = word(0);
+        const bool isGeneral = keyword == u"CONTROL", hasText = keyword != u"EDITTEXT";
+        const std::size_t style = isGeneral ? 3 : hasText ? 6 : 5, more = isGeneral ? 8 : style + 1;
+        const Script script = ReadScript("D DIALOG 0,0\nBEGIN\n" + statement + "\nEND\n");
+        const CResDialogControl& control = script.resources.Dialogs().GetAt(0).m_items.GetAt(0);
+        EXPECT_EQ(control.m_strText, hasText ? word(1) : u"") << statement;
+        EXPECT_EQ(control.m_strID, word(hasText ? 2 : 1)) << statement;
+        EXPECT_EQ(control.m_strType, isGeneral ? word(3) : keyword) << statement;
+        EXPECT_EQ(control.m_strStyle, field(style)) << statement;
+        EXPECT_EQ(control.m_strExStyle, field(more)) << statement;
+        EXPECT_EQ(control.m_strHelpID, field(more + 1)) << statement;
+    }
 }
 
 TEST(DialogScript, LogsLinesThatBelongToNoControl)
