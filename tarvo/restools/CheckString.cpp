@@ -86,6 +86,8 @@ std::u16string CheckSigns(View text1, View text2, const SignRule& rule)
 
 std::u16string CheckString(View text1, View text2, StringCheck mode)
 {
+    if (units::equal(text1, text2)) // whatever is looked for, they agree
+        return {};
     switch (mode)
     {
     case StringCheck::Percent:
@@ -101,8 +103,7 @@ std::u16string CheckString(View text1, View text2, StringCheck mode)
     }
     case StringCheck::FullString:
         // The single bracket at the end is what reports have always had; tools search for it.
-        return text1 == text2 ? std::u16string()
-                              : Join({u"Strings doesn't match: 1: '", text1, u"', 2: '", text2, u"')"});
+        return Join({u"Strings doesn't match: 1: '", text1, u"', 2: '", text2, u"')"});
     case StringCheck::None:
         break;
     }

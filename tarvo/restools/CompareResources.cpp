@@ -1,6 +1,7 @@
 #include "tarvo/restools/CompareResources.h"
 
-#include "tarvo/text/Units.h"
+#include "tarvo/restools/ResourcePairs.h"
+#include "tarvo/restools/TextOut.h"
 
 #include <algorithm>
 #include <string>
@@ -71,13 +72,17 @@ public:
     void Strings(const CResBaseclass<CResString>& list1, const CResBaseclass<CResString>& list2)
     {
         m_report.Line({u"Comparing strings:"});
-        for (const CResString& one : list1)
-            if (const CResString* const two = Partner(list2, one.m_strID))
+        const CResPairs pairs(list1, list2);
+        for (std::size_t i = 0; i < list1.GetCount(); ++i)
+        {
+            const CResString& one = list1.GetAt(i);
+            if (const CResString* const two = pairs.FirstOf(i))
                 CheckText(ResRule::StringText, {one.m_strID, {}, one.m_nLine, two->m_nLine},
                           u"\tString error in ", one.m_strID, one.m_strText, two->m_strText);
             else
                 m_report.Finding(ResRule::StringMissing, {one.m_strID, {}, one.m_nLine, 0},
                                  {u"\tCouldn't find string: ", one.m_strID, u" in file 2"});
+        }
         m_report.Line({});
     }
 
@@ -94,9 +99,9 @@ public:
 
 private:
     template <class T>
-    static const T* Partner(const CResBaseclass<T>& list, CResText key, std::size_t rank = 0)
+    static const T* Partner(const CResBaseclass<T>& list, CResText key)
     {
-        const int position = list.Find(key, rank);
+        const int position = list.Find(key);
         return position < 0 ? nullptr : &list.GetAt(static_cast<std::size_t>(position));
     }
 
@@ -118,12 +123,14 @@ private:
 
     void Compare(const CResMenu& menu1, const CResMenu& menu2)
     {
+        const CResPairs pairs(menu1.m_items, menu2.m_items);
         for (std::size_t i = 0; i < menu1.m_items.GetCount(); ++i)
-            CompareMenuItem(menu1, i, menu2);
-        CompareOrder(menuKind, menu1, menu2);
+            CompareMenuItem(menu1, i, menu2, pairs);
+        CompareOrder(menuKind, menu1, menu2, pairs);
     }
 
-    void CompareMenuItem(const CResMenu& menu1, std::size_t position, const CResMenu& menu2)
+    void CompareMenuItem(const CResMenu& menu1, std::size_t position, const CResMenu& menu2,
+                         const CResPairs<CResMenuItem>& pairs)
     {
         const CResMenuItem& one = menu1.m_items.GetAt(position);
         CResPlace place{menu1.m_strName, one.m_strID, one.m_nLine, menu2.m_nLine};
@@ -132,7 +139,7 @@ private:
             m_report.Finding(ResRule::MenuItemMissing, place, {u"\t\tMissing menu item in file 2"});
             return;
         }
-        const CResMenuItem* const two = Partner(menu2.m_items, one.m_strID, menu1.m_items.RankOf(position));
+        const CResMenuItem* const two = pairs.PartnerOf(position);
         if (two == nullptr)
         {
             m_report.Finding(ResRule::MenuItemMissing, place,
@@ -140,7 +147,7 @@ private:
             return;
         }
         place.line2 = two->m_nLine;
-        if (one.m_strStyle != two->m_strStyle)
+        if (!units::equal(one.m_strStyle, two->m_strStyle))
             m_report.Finding(ResRule::MenuItemStyle, place,
                              {u"\t\tDifferent style in ID: ", one.m_strID, u" (1: ", one.m_strStyle, u", 2: ",
                               two->m_strStyle, u")"});
@@ -155,7 +162,7 @@ private:
                 m_report.Finding(ResRule::ToolbarItemMissing,
                                  {toolbar1.m_strName, one.m_strID, one.m_nLine, toolbar2.m_nLine},
                                  {u"\t\tCouldn't find ID: ", one.m_strID});
-        CompareOrder(toolbarKind, toolbar1, toolbar2);
+        CompareOrder(toolbarKind, toolbar1, toolbar2, CResPairs(toolbar1.m_items, toolbar2.m_items));
     }
 
     void Compare(const CResDialog& dialog1, const CResDialog& dialog2)
@@ -166,22 +173,23 @@ private:
         CompareHead(ResRule::DialogExStyle, whole, u"exstyle", dialog1.m_strExStyle, dialog2.m_strExStyle);
         CheckText(ResRule::DialogCaption, whole, u"\tString error in ", u"caption", dialog1.m_strCaption,
                   dialog2.m_strCaption);
+        const CResPairs pairs(dialog1.m_items, dialog2.m_items);
         for (std::size_t i = 0; i < dialog1.m_items.GetCount(); ++i)
         {
             const CResDialogControl& one = dialog1.m_items.GetAt(i);
             CResPlace place{dialog1.m_strName, one.m_strID, one.m_nLine, dialog2.m_nLine};
-            if (const auto* two = Partner(dialog2.m_items, one.m_strID, dialog1.m_items.RankOf(i)))
+            if (const auto* two = pairs.PartnerOf(i))
                 CompareControls(place, one, *two);
             else
                 m_report.Finding(ResRule::ControlMissing, place,
                                  {u"\t\tCouldn't find control ID: ", one.m_strID});
         }
-        CompareOrder(dialogKind, dialog1, dialog2);
+        CompareOrder(dialogKind, dialog1, dialog2, pairs);
     }
 
     void CompareHead(ResRule rule, const CResPlace& place, CResText what, CResText value1, CResText value2)
     {
-        if (value1 != value2)
+        if (!units::equal(value1, value2))
             m_report.Finding(rule, place,
                              {u"\t\tDialog ", what, u" doesn't match (", value1, u", ", value2, u")"});
     }
@@ -201,7 +209,7 @@ private:
 
     void CompareSetting(ResRule rule, const CResPlace& place, CResText what, CResText value1, CResText value2)
     {
-        if (value1 != value2)
+        if (!units::equal(value1, value2))
             m_report.Finding(rule, place,
                              {u"\t\t", what, u" on control ID: ", place.item, u" (1: '", value1, u"', 2: '",
                               value2, u"')"});
@@ -209,7 +217,8 @@ private:
 
     // How many items there are, and which one stands where.
     template <class Item>
-    void CompareOrder(const Kind& kind, const CResNamed<Item>& one, const CResNamed<Item>& two)
+    void CompareOrder(const Kind& kind, const CResNamed<Item>& one, const CResNamed<Item>& two,
+                      const CResPairs<Item>& pairs)
     {
         const std::size_t count1 = one.m_items.GetCount();
         const std::size_t count2 = two.m_items.GetCount();
@@ -217,11 +226,11 @@ private:
             m_report.Finding(
                 kind.itemCount, {one.m_strName, {}, one.m_nLine, two.m_nLine},
                 {u"\t\tDifferent items count (", Number(count1), u" in 1, ", Number(count2), u" in 2)"});
-        for (std::size_t i = 0; i < std::min(count1, count2); ++i)
+        for (std::size_t i = pairs.GetSame(); i < std::min(count1, count2); ++i)
         {
             const Item& item1 = one.m_items.GetAt(i);
             const Item& item2 = two.m_items.GetAt(i);
-            if (item1.m_strID != item2.m_strID)
+            if (!units::equal(item1.m_strID, item2.m_strID))
                 m_report.Finding(kind.order, {one.m_strName, item1.m_strID, item1.m_nLine, item2.m_nLine},
                                  {kind.disorder, Number(i + 1), u" is ", item1.m_strID, u" in 1, and ",
                                   item2.m_strID, u" in 2"});
@@ -245,5 +254,5 @@ void CompareResources(const CResources& resources1, const CResources& resources2
     comparison.Files(u"bitmap", ResRule::BitmapMissing, resources1.Bitmaps(), resources2.Bitmaps());
     comparison.Files(u"icon", ResRule::IconMissing, resources1.Icons(), resources2.Icons());
     comparison.Files(u"cursor", ResRule::CursorMissing, resources1.Cursors(), resources2.Cursors());
-    strReport += units::to_string(report.Text());
+    AppendText(strReport, [&](auto& out) { out.Put(report.Text()); });
 }

@@ -1,6 +1,7 @@
 #include "tarvo/restools/ResourceReport.h"
 
 #include <array>
+#include <new>
 #include <utility>
 
 namespace
@@ -47,6 +48,8 @@ void CResReport::Line(Parts parts)
     for (const CResText part : parts)
         m_text += part;
     m_text += u"\r\n";
+    if (m_text.size() > m_most)
+        throw std::bad_alloc();
 }
 
 void CResReport::Finding(ResRule rule, const CResPlace& place, Parts parts)

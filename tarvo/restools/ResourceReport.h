@@ -75,12 +75,19 @@ struct CResPlace
 };
 
 /// A report while it is written: headings are lines, differences are lines and findings.
-class CResReport
+class TARVO_API CResReport
 {
 public:
     using Parts = std::initializer_list<CResText>;
+    /// The most units of a report. More come only of scripts that repeat one name against very long texts.
+    static constexpr std::size_t MaxSize = std::size_t{256} * 1024 * 1024;
 
-    explicit CResReport(std::vector<CResFinding>* pFindings) : m_findings(pFindings) {}
+    explicit CResReport(std::vector<CResFinding>* pFindings, std::size_t most = MaxSize)
+        : m_most(most), m_findings(pFindings)
+    {
+    }
+
+    // Both throw std::bad_alloc when the report becomes too large.
 
     void Line(Parts parts);
     void Finding(ResRule rule, const CResPlace& place, Parts parts);
@@ -88,5 +95,6 @@ public:
 
 private:
     std::u16string m_text;
+    std::size_t m_most;
     std::vector<CResFinding>* m_findings;
 };

@@ -67,20 +67,21 @@ public:
     /// The position of the first item with this key, or -1.
     int Find(CResText key) const { return Find(key, 0); }
     /// The position of the item that is number \p rank, from 0, among those with this key, or -1.
-    int Find(CResText key, std::size_t rank) const
+    int Find(CResText key, std::size_t rank) const { return Index().Find(key, rank); }
+    /// The rank of the item at \p position among those with its key.
+    std::size_t RankOf(std::size_t position) const { return Index().RankOf(position); }
+    /// True when no key is there twice.
+    bool IsUnique() const { return Index().IsUnique(); }
+
+private:
+    // Made at the first look-up: many lists are never looked up in.
+    const CNameIndex& Index() const
     {
         if (!m_index.IsBuilt())
             m_index.Build(m_arr.size(), [this](std::size_t i) { return m_arr[i].Key(); });
-        return m_index.Find(key, rank);
-    }
-    /// The rank of the item at \p position among those with its key.
-    std::size_t RankOf(std::size_t position) const
-    {
-        static_cast<void>(Find({}, 0));
-        return m_index.RankOf(position);
+        return m_index;
     }
 
-private:
     std::vector<T> m_arr;
     mutable CNameIndex m_index;
 };

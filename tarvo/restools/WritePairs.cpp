@@ -1,9 +1,10 @@
 #include "tarvo/restools/WritePairs.h"
 
-#include "tarvo/text/Units.h"
+#include "tarvo/restools/ResourcePairs.h"
+#include "tarvo/restools/TextOut.h"
 
-#include <string>
-#include <unordered_set>
+#include <cstdint>
+#include <vector>
 
 namespace
 {
@@ -13,95 +14,140 @@ struct TextPair
     CResText text1;
     CResText text2;
 
-    bool operator==(const TextPair&) const = default;
-};
-
-struct PairHash
-{
-    std::size_t operator()(const TextPair& pair) const
+    bool operator==(const TextPair& other) const
     {
-        return (units::hash(pair.id) * std::size_t{31} + units::hash(pair.text1)) * 31 +
-               units::hash(pair.text2);
+        return units::equal(id, other.id) && units::equal(text1, other.text1) &&
+               units::equal(text2, other.text2);
     }
 };
 
-/// One section of the table while it is written.
+std::uint32_t HashOf(const TextPair& pair)
+{
+    return (units::hash(pair.id) * 31 + units::hash(pair.text1)) * 31 + units::hash(pair.text2);
+}
+
+/// The pairs of one section, each once, in their order.
 class Section
 {
 public:
-    Section(std::u16string& text, CResText head, bool quoted) : m_text(text), m_quoted(quoted)
-    {
-        m_text.append(head).append(u"\r\n");
-    }
+    explicit Section(CResText head) : m_head(head), m_slots(64, none) {}
 
-    // The items of two lists, paired by ID and rank.
-    template <class T>
-    void AddItems(const CResBaseclass<T>& list1, const CResBaseclass<T>& list2)
-    {
-        for (std::size_t i = 0; i < list1.GetCount(); ++i)
-        {
-            const T& one = list1.GetAt(i);
-            if (const int partner = list2.Find(one.m_strID, list1.RankOf(i)); partner >= 0)
-                Add({one.m_strID, one.m_strText, list2.GetAt(static_cast<std::size_t>(partner)).m_strText});
-        }
-    }
-
-    // The items of a resource and of the one with its name in the other script.
+    // The items of a resource and of the one with its name in the other script, paired by ID and rank.
     template <class T>
     void AddResource(const T& one, const CResBaseclass<T>& list2)
     {
-        if (const int partner = list2.Find(one.m_strName); partner >= 0)
-            AddItems(one.m_items, list2.GetAt(static_cast<std::size_t>(partner)).m_items);
+        const int position = list2.Find(one.m_strName);
+        if (position < 0)
+            return;
+        const CResPairs pairs(one.m_items, list2.GetAt(static_cast<std::size_t>(position)).m_items);
+        for (std::size_t i = 0; i < one.m_items.GetCount(); ++i)
+            Add(one.m_items.GetAt(i), pairs.PartnerOf(i));
     }
 
     void AddStrings(const CResBaseclass<CResString>& list1, const CResBaseclass<CResString>& list2)
     {
-        for (const CResString& one : list1)
-            if (const int partner = list2.Find(one.m_strID); partner >= 0)
-                Add({one.m_strID, one.m_strText, list2.GetAt(static_cast<std::size_t>(partner)).m_strText});
+        const CResPairs pairs(list1, list2);
+        for (std::size_t i = 0; i < list1.GetCount(); ++i)
+            Add(list1.GetAt(i), pairs.FirstOf(i));
+    }
+
+    template <class Out>
+    void WriteTo(Out& out, bool quoted) const
+    {
+        out.Put(m_head);
+        out.Put(u"\r\n");
+        for (const TextPair& pair : m_pairs)
+        {
+            out.Put(quoted ? CResText(u"\"") : pair.id);
+            out.Put(quoted ? CResText() : u"\t");
+            out.Put(pair.text1);
+            out.Put(quoted ? CResText(u"\"=\"") : u"\t");
+            out.Put(pair.text2);
+            out.Put(quoted ? CResText(u"\"\r\n") : u"\r\n");
+        }
     }
 
 private:
-    void Add(const TextPair& pair)
+    template <class Item>
+    void Add(const Item& one, const Item* two)
     {
-        if ((pair.text1.empty() && pair.text2.empty()) || !m_written.insert(pair).second)
+        if (two == nullptr || (one.m_strText.empty() && two->m_strText.empty()))
             return;
-        if (m_quoted)
-            m_text.append(u"\"").append(pair.text1).append(u"\"=\"").append(pair.text2).append(u"\"\r\n");
-        else
-            m_text.append(pair.id)
-                .append(u"\t")
-                .append(pair.text1)
-                .append(u"\t")
-                .append(pair.text2)
-                .append(u"\r\n");
+        const TextPair pair = {one.m_strID, one.m_strText, two->m_strText};
+        const std::uint32_t hash = HashOf(pair);
+        std::uint64_t& slot = m_slots[SlotOf(pair, hash)];
+        if (slot != none)
+            return;
+        slot = std::uint64_t{hash} << 32 | m_pairs.size();
+        m_pairs.push_back(pair);
+        if (m_pairs.size() * 2 > m_slots.size())
+            Widen();
     }
 
-    std::u16string& m_text;
-    std::unordered_set<TextPair, PairHash> m_written;
-    bool m_quoted;
+    std::size_t SlotOf(const TextPair& pair, std::uint32_t hash) const
+    {
+        const std::size_t mask = m_slots.size() - 1;
+        std::size_t slot = hash & mask;
+        while (m_slots[slot] != none &&
+               (m_slots[slot] >> 32 != hash || !(m_pairs[static_cast<std::uint32_t>(m_slots[slot])] == pair)))
+            slot = (slot + 1) & mask;
+        return slot;
+    }
+
+    void Widen()
+    {
+        std::vector<std::uint64_t> wider(m_slots.size() * 4, none);
+        for (const std::uint64_t entry : m_slots)
+            if (entry != none)
+            {
+                std::size_t slot = (entry >> 32) & (wider.size() - 1);
+                while (wider[slot] != none)
+                    slot = (slot + 1) & (wider.size() - 1);
+                wider[slot] = entry;
+            }
+        m_slots = std::move(wider);
+    }
+
+    static constexpr std::uint64_t none = ~std::uint64_t{0};
+
+    CResText m_head;
+    std::vector<TextPair> m_pairs;
+    std::vector<std::uint64_t>
+        m_slots; ///< open addressing: a pair's hash in the upper half, below its position
 };
 
-void WriteDialogs(const CResources& resources1, const CResources& resources2, CResText type, Section section)
+Section DialogPairs(const CResources& resources1, const CResources& resources2, CResText type, CResText head)
 {
+    Section section(head);
     for (const CResDialog& dialog : resources1.Dialogs())
         if (dialog.m_strType == type)
             section.AddResource(dialog, resources2.Dialogs());
+    return section;
 }
 
-void WriteMenus(const CResources& resources1, const CResources& resources2, Section section)
+Section MenuPairs(const CResources& resources1, const CResources& resources2)
 {
+    Section section(u"[MENU]");
     for (const CResMenu& menu : resources1.Menus())
         section.AddResource(menu, resources2.Menus());
+    return section;
+}
+
+Section StringPairs(const CResources& resources1, const CResources& resources2)
+{
+    Section section(u"[STRINGTABLE]");
+    section.AddStrings(resources1.Strings(), resources2.Strings());
+    return section;
 }
 } // namespace
 
 void WritePairs(const CResources& resources1, const CResources& resources2, CString& strText, bool bQuoted)
 {
-    std::u16string text;
-    WriteDialogs(resources1, resources2, u"DIALOG", Section(text, u"[DIALOG]", bQuoted));
-    WriteDialogs(resources1, resources2, u"DIALOGEX", Section(text, u"[DIALOGEX]", bQuoted));
-    WriteMenus(resources1, resources2, Section(text, u"[MENU]", bQuoted));
-    Section(text, u"[STRINGTABLE]", bQuoted).AddStrings(resources1.Strings(), resources2.Strings());
-    strText += units::to_string(text);
+    const Section sections[] = {DialogPairs(resources1, resources2, u"DIALOG", u"[DIALOG]"),
+                                DialogPairs(resources1, resources2, u"DIALOGEX", u"[DIALOGEX]"),
+                                MenuPairs(resources1, resources2), StringPairs(resources1, resources2)};
+    AppendText(strText, [&](auto& out) {
+        for (const Section& section : sections)
+            section.WriteTo(out, bQuoted);
+    });
 }

@@ -1,53 +1,73 @@
 #include "tarvo/restools/WriteStringList.h"
 
-#include "tarvo/text/Units.h"
-
-#include <string>
+#include "tarvo/restools/TextOut.h"
 
 namespace
 {
-void AddLine(std::u16string& text, CResText id, CResText value)
+template <class Out>
+class List
 {
-    text.append(id).append(u"\t").append(value).append(u"\r\n");
-}
+public:
+    explicit List(Out& out) : m_out(out) {}
 
-void AddHeading(std::u16string& text, CResText kind, CResText name)
-{
-    text.append(kind).append(name).append(u"\r\n");
-}
+    void Heading(CResText kind, CResText name)
+    {
+        m_out.Put(kind);
+        m_out.Put(name);
+        m_out.Put(u"\r\n");
+    }
 
-template <class Item>
-void AddItems(std::u16string& text, const CResBaseclass<Item>& items)
+    void Line(CResText id, CResText text)
+    {
+        m_out.Put(id);
+        m_out.Put(u"\t");
+        m_out.Put(text);
+        m_out.Put(u"\r\n");
+    }
+
+    template <class Item>
+    void Items(const CResBaseclass<Item>& items)
+    {
+        for (const Item& item : items)
+            if (!item.m_strText.empty())
+                Line(item.m_strID, item.m_strText);
+    }
+
+private:
+    Out& m_out;
+};
+
+template <class Out>
+void WriteList(const CResources& resources, Out& out)
 {
-    for (const Item& item : items)
-        if (!item.m_strText.empty())
-            AddLine(text, item.m_strID, item.m_strText);
+    List list(out);
+    for (const CResMenu& menu : resources.Menus())
+    {
+        list.Heading(u"Menu: ", menu.m_strName);
+        list.Items(menu.m_items);
+    }
+    for (const CResDialog& dialog : resources.Dialogs())
+    {
+        list.Heading(u"Dialog: ", dialog.m_strName);
+        if (!dialog.m_strCaption.empty())
+            list.Line(u"CAPTION", dialog.m_strCaption);
+        list.Items(dialog.m_items);
+    }
+    list.Heading(u"Strings: ", {});
+    for (const CResString& string : resources.Strings())
+        list.Line(string.m_strID, string.m_strText);
 }
 } // namespace
 
 void WriteStringList(const CResources& resources, CString& strText, bool bClean)
 {
-    std::u16string text;
-    for (const CResMenu& menu : resources.Menus())
-    {
-        AddHeading(text, u"Menu: ", menu.m_strName);
-        AddItems(text, menu.m_items);
-    }
-    for (const CResDialog& dialog : resources.Dialogs())
-    {
-        AddHeading(text, u"Dialog: ", dialog.m_strName);
-        if (!dialog.m_strCaption.empty())
-            AddLine(text, u"CAPTION", dialog.m_strCaption);
-        AddItems(text, dialog.m_items);
-    }
-    AddHeading(text, u"Strings: ", {});
-    for (const CResString& string : resources.Strings())
-        AddLine(text, string.m_strID, string.m_strText);
-
-    CString list = units::to_string(text);
+    CString list;
+    AppendText(bClean ? list : strText, [&](auto& out) { WriteList(resources, out); });
     if (bClean)
+    {
         CleanStringList(list);
-    strText += list;
+        strText += list;
+    }
 }
 
 void CleanStringList(CString& strText)

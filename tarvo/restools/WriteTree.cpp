@@ -1,8 +1,6 @@
 #include "tarvo/restools/WriteTree.h"
 
-#include "tarvo/text/Units.h"
-
-#include <string>
+#include "tarvo/restools/TextOut.h"
 
 namespace
 {
@@ -10,18 +8,19 @@ CResText TextOf(const CResMenuItem& item) { return item.m_strText; }
 CResText TextOf(const CResDialogControl& item) { return item.m_strText; }
 CResText TextOf(const CResToolbarItem& item) { return item.m_strKeyword; }
 
+template <class Out>
 class Tree
 {
 public:
-    explicit Tree(bool idsOnly) : m_idsOnly(idsOnly) {}
+    Tree(Out& out, bool idsOnly) : m_out(out), m_idsOnly(idsOnly) {}
 
     template <class T>
     void Nested(CResText heading, const CResBaseclass<T>& list)
     {
-        m_text.append(heading).append(u"\r\n");
+        Line({}, heading);
         for (const T& one : list)
         {
-            m_text.append(u"  ").append(one.m_strName).append(u"\r\n");
+            Line(u"  ", one.m_strName);
             for (const auto& item : one.m_items)
                 WithText(u"    ", item.m_strID, TextOf(item));
         }
@@ -29,44 +28,53 @@ public:
 
     void Strings(CResText heading, const CResBaseclass<CResString>& list)
     {
-        m_text.append(heading).append(u"\r\n");
+        Line({}, heading);
         for (const CResString& one : list)
             WithText(u"  ", one.m_strID, one.m_strText);
     }
 
     void Files(CResText heading, const CResBaseclass<CResSimple>& list)
     {
-        m_text.append(heading).append(u"\r\n");
+        Line({}, heading);
         for (const CResSimple& one : list)
-            m_text.append(u"  ").append(one.m_strName).append(u"\r\n");
+            Line(u"  ", one.m_strName);
     }
-
-    CResText Text() const { return m_text; }
 
 private:
+    void Line(CResText indent, CResText name)
+    {
+        m_out.Put(indent);
+        m_out.Put(name);
+        m_out.Put(u"\r\n");
+    }
     void WithText(CResText indent, CResText id, CResText text)
     {
-        m_text.append(indent).append(id);
+        m_out.Put(indent);
+        m_out.Put(id);
         if (!m_idsOnly)
-            m_text.append(u"\t").append(text);
-        m_text.append(u"\r\n");
+        {
+            m_out.Put(u"\t");
+            m_out.Put(text);
+        }
+        m_out.Put(u"\r\n");
     }
 
-    std::u16string m_text;
+    Out& m_out;
     bool m_idsOnly;
 };
 } // namespace
 
 void WriteTree(const CResources& resources, CString& strText, bool bIDsOnly)
 {
-    Tree tree(bIDsOnly);
-    tree.Nested(u"Menus:", resources.Menus());
-    tree.Nested(u"Toobars:", resources.Toolbars()); // so spelled in every tree that was ever written
-    tree.Nested(u"Dialogs:", resources.Dialogs());
-    tree.Strings(u"Strings:", resources.Strings());
-    tree.Files(u"Bitmaps:", resources.Bitmaps());
-    tree.Files(u"PNGs:", resources.PNGs());
-    tree.Files(u"Icons:", resources.Icons());
-    tree.Files(u"Cursors:", resources.Cursors());
-    strText += units::to_string(tree.Text());
+    AppendText(strText, [&](auto& out) {
+        Tree tree(out, bIDsOnly);
+        tree.Nested(u"Menus:", resources.Menus());
+        tree.Nested(u"Toobars:", resources.Toolbars()); // so spelled in every tree that was ever written
+        tree.Nested(u"Dialogs:", resources.Dialogs());
+        tree.Strings(u"Strings:", resources.Strings());
+        tree.Files(u"Bitmaps:", resources.Bitmaps());
+        tree.Files(u"PNGs:", resources.PNGs());
+        tree.Files(u"Icons:", resources.Icons());
+        tree.Files(u"Cursors:", resources.Cursors());
+    });
 }

@@ -114,6 +114,29 @@ TEST(BadScript, MayRepeatOneIDAHundredThousandTimes)
     EXPECT_TRUE(findings.empty());
 }
 
+// Each of them is compared with the first of the name, so that the report grows with the scripts and not with
+// their product.
+TEST(BadScript, MayRepeatOneNameTwentyThousandTimes)
+{
+    constexpr int count = 20000;
+    const std::string dialog = "D DIALOG 0\nBEGIN\nLTEXT \"a\",1\n",
+                      menu = "M MENU\nBEGIN\nMENUITEM \"a\", 1\nEND\n";
+    const Script one = ReadScript(Repeated(dialog + "END\n", count) + Repeated(menu, count));
+    const Script two = ReadScript(Repeated(dialog + "LTEXT \"b\",2\nEND\n", count) + Repeated(menu, count));
+    CString report;
+    CompareResources(one.resources, two.resources, report, StringCheck::FullString);
+    report.Replace(L"\r\n", L"\n");
+    EXPECT_EQ(
+        Utf8(report),
+        "Comparing menus:\n" + Repeated("\tComparing menu resource: M\n", count) +
+            "\nComparing toolbars:\n\nComparing dialogs:\n" +
+            Repeated("\tComparing dialog resource: D\n\t\tDifferent items count (1 in 1, 2 in 2)\n", count) +
+            "\nComparing strings:\n\nComparing bitmaps:\nComparing icons:\nComparing cursors:\n");
+    CString pairs;
+    WritePairs(one.resources, two.resources, pairs, false);
+    EXPECT_EQ(Utf8(pairs), "[DIALOG]\r\n1\ta\ta\r\n[DIALOGEX]\r\n[MENU]\r\n1\ta\ta\r\n[STRINGTABLE]\r\n");
+}
+
 TEST(BadScript, MayNestMenusTenThousandDeep)
 {
     const Script script = ReadScript("M MENU\nBEGIN\n" + Repeated("POPUP \"a\"\nBEGIN\n", 10000) +

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+
 namespace
 {
 std::string Report(std::string_view text1, std::string_view text2, StringCheck mode = StringCheck::Both)
@@ -116,6 +118,15 @@ TEST(CompareResources, ChecksStringsByTheirID)
         << "of equal IDs the first counts";
 }
 
+TEST(CompareResources, HoldsARepeatedStringAgainstTheFirstOfItsID)
+{
+    const std::string twice = Table("A \"a\"\nB \"b\"\nA \"%d\""), once = Table("A \"a\"\nB \"b\"\nC \"c\"");
+    EXPECT_EQ(Part("strings", twice, twice),
+              "\tString error in A: Different number of %-signs ('%d', 'a')\n");
+    EXPECT_EQ(Part("strings", twice, once), "\tString error in A: Different number of %-signs ('%d', 'a')\n");
+    EXPECT_EQ(Part("strings", once, twice), "\tCouldn't find string: C in file 2\n");
+}
+
 TEST(CompareMenus, ChecksStyleAndTextOfEachItem)
 {
     EXPECT_EQ(MenuPart("MENUITEM \"%d\", 1, GRAYED\nMENUITEM \"b\", 2",
@@ -161,6 +172,15 @@ TEST(CompareToolbars, MissesItemsAndSeesCountAndOrder)
     EXPECT_EQ(ToolbarPart("BUTTON 1\nBUTTON 1", "BUTTON 1\nBUTTON 2"),
               "\t\tDifferent toolbar structure. Item 2 is 1 in 1, and 2 in 2\n")
         << "a button is found whatever its rank";
+}
+
+TEST(ResourceReport, IsGivenUpWhenItBecomesTooLarge)
+{
+    CResReport report(nullptr, 9);
+    report.Line({u"abc", u"defg"});
+    EXPECT_EQ(report.Text(), u"abcdefg\r\n");
+    EXPECT_THROW(report.Line({}), std::bad_alloc);
+    EXPECT_THROW(report.Finding(ResRule::MenuCount, {}, {u"x"}), std::bad_alloc);
 }
 
 TEST(ResourceReport, NamesEveryRuleOnceInSmallLettersAndHyphens)

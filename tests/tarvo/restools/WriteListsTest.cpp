@@ -88,6 +88,22 @@ TEST(WritePairs, LeavesOutPairsWithoutAnyTextAndRepeatedOnes)
               "[DIALOG]\n1\tx\ty\n3\t\tz\n4\tx\ty\n[DIALOGEX]\n[MENU]\n[STRINGTABLE]\n");
 }
 
+TEST(WritePairs, LeavesOutRepeatedOnesAmongManyAndKeepsTheOrder)
+{
+    std::string strings = "STRINGTABLE\nBEGIN\n", wanted;
+    for (int round = 0; round < 2; ++round)
+        for (int i = 0; i < 5000; ++i)
+        {
+            const std::string line = "S" + std::to_string(i % 1250) + " \"" + std::to_string(i) + "\"\n";
+            strings += line;
+            if (round == 0)
+                wanted += "S" + std::to_string(i % 1250) + '\t' + std::to_string(i) + '\t' +
+                          std::to_string(i % 1250) + '\n';
+        }
+    EXPECT_EQ(Pairs(strings + "END\n", strings + "END\n", false),
+              "[DIALOG]\n[DIALOGEX]\n[MENU]\n[STRINGTABLE]\n" + wanted);
+}
+
 TEST(WritePairs, AppendsToTheTextWithTheHeadsOfEmptySections)
 {
     CString text = L"before\r\n";
