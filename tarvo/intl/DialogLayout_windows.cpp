@@ -81,7 +81,7 @@ void CDialogLayout::Open(HWND window, bool sizesItself)
     m_units = UnitsOf(window);
     m_layout = {};
     AddParts();
-    m_left = SizeOf(window);
+    m_left = m_wanted = SizeOf(window);
 }
 
 /// Those that are not known yet.
@@ -224,16 +224,15 @@ void CDialogLayout::FindItems()
     }
 }
 
-/// A dialog in another window sizes itself as long as nobody else has.
+/// By what the template's size has changed, and by what the screen did not allow the last time. A dialog in
+/// another window sizes itself as long as nobody else has.
 void CDialogLayout::ResizeWindow(const CSize& former)
 {
-    const CSize now = GetTemplateSize();
-    const SheetLayout::Size by{now.cx - former.cx, now.cy - former.cy};
-    const CSize left = m_left;
-    m_left = {left.cx + by.cx, left.cy + by.cy};
+    m_wanted += GetTemplateSize() - former;
     const bool isChild = (::GetWindowLongPtrW(m_window, GWL_STYLE) & WS_CHILD) != 0;
-    if (!m_sizesItself || (isChild && SizeOf(m_window) != left))
+    if (!m_sizesItself || (isChild && SizeOf(m_window) != m_left))
         return;
+    const CSize by = m_wanted - m_left;
     WINDOWPLACEMENT placement = {};
     placement.length = sizeof placement;
     if ((::IsZoomed(m_window) || ::IsIconic(m_window)) && ::GetWindowPlacement(m_window, &placement))
@@ -242,14 +241,19 @@ void CDialogLayout::ResizeWindow(const CSize& former)
         placement.rcNormalPosition.bottom += by.cy;
         if (::IsIconic(m_window))
             placement.showCmd = SW_SHOWMINNOACTIVE;
+        m_left = m_wanted;
         ::SetWindowPlacement(m_window, &placement);
         return;
     }
+    const CSize before = SizeOf(m_window);
+    const HWND window = m_window;
     if (isChild)
-        ::SetWindowPos(m_window, nullptr, 0, 0, m_left.cx, m_left.cy,
+        ::SetWindowPos(window, nullptr, 0, 0, m_wanted.cx, m_wanted.cy,
                        SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     else
-        GrowWindow(m_window, by);
+        GrowWindow(window, {by.cx, by.cy});
+    if (::IsWindow(window))
+        m_left += SizeOf(window) - before;
 }
 
 CRect CDialogLayout::PlaceInTemplate(const Part& part) const

@@ -82,6 +82,7 @@ private:
     TemplateLayout m_nextLayout;
     std::vector<Part> m_parts;
     CPoint m_scrolled;
-    CSize m_left; ///< the window's size as the layout last left it
+    CSize m_wanted; ///< the window's size by the layout
+    CSize m_left;   ///< as the layout could make it, had nobody changed it since
     HFONT m_hFont = nullptr;
 };

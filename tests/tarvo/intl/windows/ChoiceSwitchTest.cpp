@@ -321,3 +321,52 @@ TEST_F(ChoiceSwitch, ListThatGoesWhileTextsAreSetIsPassedOver)
     dlg.Select(0);
     EXPECT_EQ(CLanguageSwitch::Retranslate(), 1);
 }
+
+// List boxes and edit controls.
+
+TEST_F(ChoiceSwitch, ListBoxOfManyChoicesIsChosenAsBefore)
+{
+    class CManyDlg : public CChoiceDlg
+    {
+    protected:
+        void PreInitDialog() override // the template's controls are there, the library has not seen them yet
+        {
+            many.Create(WS_CHILD | LBS_MULTIPLESEL, CRect(0, 100, 80, 160), this, 4003);
+        }
+
+    public:
+        CListBox many;
+    } box;
+    box.fill = [&] {
+        box.many.ResetContent();
+        for (const wchar_t* line : {L"one", L"two", L"three", L"four"})
+            box.many.AddString(line);
+    };
+    ASSERT_TRUE(box.Create(IDD_SETUP));
+    for (const int line : {1, 3})
+        box.many.SetSel(line, TRUE);
+    CLanguageSwitch::Retranslate();
+    std::wstring chosen;
+    for (int i = 0; i < 4; ++i)
+        chosen += box.many.GetSel(i) > 0 ? L"x" : L"-";
+    EXPECT_EQ(chosen, L"-x-x");
+    box.DestroyWindow();
+}
+
+TEST_F(ChoiceSwitch, SelectedCharactersAndFocusComeBackFromWhereSetTextPutsThem)
+{
+    CHostWnd host;
+    ASSERT_TRUE(dlg.Create(IDD_SETUP, &host));
+    dlg.ShowWindow(SW_SHOW);
+    dlg.SetForegroundWindow();
+    dlg.SetDlgItemText(IDC_NAME_EDIT, L"entered");
+    dlg.SendDlgItemMessage(IDC_NAME_EDIT, EM_SETSEL, 2, 4);
+    dlg.GetDlgItem(IDC_NAME_EDIT)->SetFocus();
+    dlg.fill = [&] {
+        dlg.SendDlgItemMessage(IDC_NAME_EDIT, EM_SETSEL, 0, -1);
+        dlg.GetDlgItem(IDC_SEARCH)->SetFocus();
+    };
+    CLanguageSwitch::Retranslate();
+    EXPECT_EQ(dlg.SendDlgItemMessage(IDC_NAME_EDIT, EM_GETSEL), MAKELRESULT(2, 4));
+    EXPECT_EQ(::GetFocus(), dlg.GetDlgItem(IDC_NAME_EDIT)->m_hWnd);
+}

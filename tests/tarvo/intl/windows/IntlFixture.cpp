@@ -23,7 +23,13 @@ void IntlWindows::SetUp()
     Set(L"DlgFontName_Std", L"Tahoma");
     Set(L"DlgFontSize_Std", L"9");
     SetTextFont("Tahoma");
-    table = new XMultiLang;
+    table = MakeTable();
+    INIResourceManager::AppendMap(L"IntlTest", table);
+}
+
+XMultiLang* IntlWindows::MakeTable()
+{
+    auto* const made = new XMultiLang;
     const std::wstring header =
         L"#define IDD_SETUP 350\n#define IDD_OLD_FORM 351\n#define IDD_VIEW_FORM 352\n"
         L"#define IDD_PAGE_ONE 353\n#define IDD_PAGE_TWO 354\n#define IDS_SHEET_CAPTION 370\n"
@@ -33,9 +39,8 @@ void IntlWindows::SetUp()
         L"#define IDC_FRAME 3010\n#define IDC_USE 3011\n#define ID_INTL_OPEN 33001\n#define ID_INTL_EXIT "
         L"33002\n";
     std::string bytes = platform::codepage::to_utf16le(header);
-    table->LoadResourceHeader(reinterpret_cast<unsigned char*>(bytes.data()),
-                              static_cast<int>(header.size()));
-    INIResourceManager::AppendMap(L"IntlTest", table);
+    made->LoadResourceHeader(reinterpret_cast<unsigned char*>(bytes.data()), static_cast<int>(header.size()));
+    return made;
 }
 
 void IntlWindows::TearDown()

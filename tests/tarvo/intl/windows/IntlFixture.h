@@ -41,6 +41,9 @@ protected:
     void SpeakGerman();
     void SpeakFrench();
 
+    /// The table of this program's symbols, which a new owner takes over.
+    static XMultiLang* MakeTable();
+
     TempFolder folder;
     TestRegistry registry;
     CTestCatalogue catalogue;

@@ -2,6 +2,7 @@
 
 #include "tarvo/intl/InternationalDlg.h"
 #include "tarvo/intl/InternationalFormView.h"
+#include "tarvo/lang/INIResourceManager.h"
 #include "tarvo/msg/MSGInfo.h"
 #include "tests/tarvo/intl/windows/IntlFixture.h"
 
@@ -93,6 +94,21 @@ TEST_F(LanguageSwitch, OpenDialogShowsWhatAFreshOneWould)
     catalogue.texts.clear();
     CLanguageSwitch::Retranslate();
     EXPECT_EQ(TextsOf(dlg.m_hWnd), Fresh());
+    dlg.DestroyWindow();
+}
+
+TEST_F(LanguageSwitch, WithoutATableAnyMoreTheTemplatesTextsAreShown)
+{
+    INIResourceManager::DeleteINIResource();
+    const std::wstring original = Fresh();
+    INIResourceManager::AppendMap(L"IntlTest", MakeTable());
+    SpeakGerman();
+    CTableDlg dlg;
+    ASSERT_TRUE(dlg.Create(IDD_SETUP));
+    EXPECT_NE(TextsOf(dlg.m_hWnd), original);
+    INIResourceManager::DeleteINIResource();
+    EXPECT_EQ(CLanguageSwitch::Retranslate(), 1);
+    EXPECT_EQ(TextsOf(dlg.m_hWnd), original);
     dlg.DestroyWindow();
 }
 

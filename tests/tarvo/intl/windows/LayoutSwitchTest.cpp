@@ -354,6 +354,21 @@ TEST_F(LayoutSwitch, WindowAtTheScreensEdgeStaysOnTheScreen)
     dlg.DestroyWindow();
 }
 
+TEST_F(LayoutSwitch, WindowThatTheScreenWasTooSmallForHasItsSizeAgainAfterwards)
+{
+    CRect screen;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
+    CFontDlg dlg;
+    ASSERT_TRUE(dlg.Create(IDD_SETUP));
+    dlg.Enlarge(30, 20);
+    const std::wstring before = LookOf(dlg.m_hWnd);
+    SwitchFont(L"Arial", L"60");
+    EXPECT_EQ(dlg.Size(), screen.Size());
+    SwitchFont(L"Tahoma", L"9");
+    EXPECT_EQ(LookOf(dlg.m_hWnd), before);
+    dlg.DestroyWindow();
+}
+
 TEST_F(LayoutSwitch, MinimizedAndMaximizedWindowsAreLaidOutForWhenTheyAreRestored)
 {
     UseFont(L"Arial", L"14");
