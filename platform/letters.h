@@ -26,6 +26,8 @@ constexpr bool is_space(wchar_t ch) noexcept
     const auto n = static_cast<unsigned>(ch);
     if (n < 0x80)
         return n == 0x20 || n - 9 < 5;
+    if (n > 0x3000) // most letters of most languages that need more than ASCII
+        return false;
     return n == 0x85 || n == 0xA0 || n == 0x1680 || n - 0x2000 < 11 || n == 0x2028 || n == 0x2029 ||
            n == 0x202F || n == 0x205F || n == 0x3000;
 }

@@ -1,45 +1,45 @@
 #pragma once
 
-#include "tarvo/export.h"
-#include "tarvo/text/TextArena.h"
+#include "tarvo/text/RecordArena.h"
 #include "tarvo/text/Units.h"
 
 #include <cstdint>
-#include <cstring>
 
-/// One key of a section with its value: two lengths, the key's units and the value's, one after the other
-/// in the document's arena, which owns them. What a look-up finds stands in one place.
-class TARVO_API IniEntry
+/// One key of a section with its value: the units of both stand behind it in the document's memory, so that
+/// what a look-up finds is in one place.
+class IniEntry
 {
 public:
-    IniEntry(CTextArena& texts, units::view key, units::view value);
+    using Ref = CRecordArena::Ref;
+    static constexpr Ref kNone = 0xFFFFFFFF;
 
-    units::view Key() const { return {m_p + kHead, KeyLength()}; }
-    units::view Value() const { return {m_p + kHead + KeyLength(), Length(1)}; }
+    units::view Key() const { return {Units(), m_nKey}; }
+    units::view Value() const { return {Units() + m_nKey, m_nValue}; }
     /// Units of key and value.
-    std::size_t GetTextSize() const { return std::size_t{KeyLength()} + Length(1); }
-    /// Units in the arena: those of the texts and so many more.
-    static constexpr std::size_t kHead = 2 * sizeof(std::uint32_t) / sizeof(char16_t);
-    std::size_t GetSize() const { return kHead + GetTextSize(); }
-
-    /// Writes \p value over the old one; false, and nothing done, when it is longer than that.
-    bool Assign(units::view value);
-    /// Moves to \p room, which has GetSize() units, and returns what lies behind them.
-    char16_t* MoveTo(char16_t* room);
+    std::size_t GetTextSize() const { return std::size_t{m_nKey} + m_nValue; }
 
 private:
-    std::uint32_t KeyLength() const { return Length(0); }
-    std::uint32_t Length(std::size_t index) const
+    friend class CIniStore;
+
+    IniEntry(Ref section, const units::view& key, const units::view& value)
+        : m_nSection(section), m_nKey(static_cast<std::uint32_t>(key.size())),
+          m_nValue(static_cast<std::uint32_t>(value.size()))
     {
-        std::uint32_t length;
-        std::memcpy(&length, m_p + 2 * index, sizeof length);
-        return length;
+        units::copy(value, units::copy(key, Units()));
     }
-    void SetLength(std::size_t index, std::size_t length)
+    char16_t* Units() const { return reinterpret_cast<char16_t*>(const_cast<IniEntry*>(this) + 1); }
+    /// Writes \p value over the old one; false, and nothing done, when it is longer than that.
+    bool Assign(const units::view& value)
     {
-        const auto stored = static_cast<std::uint32_t>(length);
-        std::memcpy(m_p + 2 * index, &stored, sizeof stored);
+        if (value.size() > m_nValue)
+            return false;
+        units::copy(value, Units() + m_nKey);
+        m_nValue = static_cast<std::uint32_t>(value.size());
+        return true;
     }
 
-    char16_t* m_p;
+    Ref m_nSection;      ///< kNone when another entry has the key now
+    Ref m_nNext = kNone; ///< the next one of the section
+    std::uint32_t m_nKey;
+    std::uint32_t m_nValue;
 };

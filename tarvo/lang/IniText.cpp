@@ -11,40 +11,40 @@ namespace initext
 bool CLineReader::ReadALine(units::view& line, LineMarks& marks)
 {
     marks = {};
-    char16_t* const begin = m_p;
-    const char16_t* stop = MarkLine(begin, m_pEnd, marks);
+    const char16_t* const begin = m_p;
+    const char16_t* stop = m_marker.Mark(begin, m_pEnd, marks);
     while (stop != m_pEnd && *stop != u'\n' && *stop != u'\r' && *stop != u'\0')
-        stop = MarkLine(stop + 1, m_pEnd, marks);
+        stop = m_marker.Mark(stop + 1, m_pEnd, marks);
     const bool returned = m_pEnd - stop >= 2 && stop[0] == u'\r' && stop[1] == u'\n';
     if (stop != m_pEnd && *stop == u'\r' && !returned)
     {
-        const bool more = CloseUp(begin, line);
+        const bool more = CloseUp(line);
         marks = MarkLine(line);
         return more;
     }
     const bool fed = returned || (stop != m_pEnd && *stop == u'\n');
     line = units::trim({begin, static_cast<std::size_t>(stop - begin)});
-    m_p = begin + (stop - begin) + returned + fed;
+    m_p = stop + returned + fed;
     return fed || stop != begin;
 }
 
-/// Reads a line with carriage returns inside: each is dropped and what follows it moves up.
-bool CLineReader::CloseUp(char16_t* begin, units::view& line)
+/// Puts a line with carriage returns inside together without them.
+bool CLineReader::CloseUp(units::view& line)
 {
-    char16_t* end = begin;
+    m_strClosed.clear();
     bool fed = false;
     while (!fed && m_p != m_pEnd && *m_p != u'\0')
     {
         const char16_t unit = *m_p++;
         fed = unit == u'\n';
         if (!fed && unit != u'\r')
-            *end++ = unit;
+            m_strClosed += unit;
     }
-    line = units::trim({begin, static_cast<std::size_t>(end - begin)});
-    return fed || end != begin;
+    line = units::trim(m_strClosed);
+    return fed || !m_strClosed.empty();
 }
 
-LINE_TYPE GetLineType(units::view line, const LineMarks& marks)
+LINE_TYPE GetLineType(const units::view& line, const LineMarks& marks)
 {
     if (line.empty())
         return LINE_BLANK;
@@ -71,7 +71,7 @@ units::view CutRemark(units::view key)
 }
 } // namespace
 
-bool ParseData(units::view line, const LineMarks& marks, units::view& key, units::view& value)
+bool ParseData(const units::view& line, const LineMarks& marks, units::view& key, units::view& value)
 {
     if (line.empty() || line.front() == u';' || line.front() == u'[' || !marks.equals)
         return false;

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
 #include <string_view>
 
 /// How the text of an INI document is taken apart: functions from text to text, without a document.
@@ -24,26 +25,29 @@ enum LINE_TYPE
     LINE_OTHER = 4
 };
 
-/// Reads lines from units that it may change: carriage returns are dropped by closing up the line.
+/// Reads the lines of a text that stays as it is.
 class TARVO_API CLineReader
 {
 public:
-    CLineReader(char16_t* text, std::size_t count) : m_p(text), m_pEnd(text + count) {}
+    explicit CLineReader(units::view text) : m_p(text.data()), m_pEnd(m_p + text.size()), m_marker(text) {}
 
-    /// The next line, trimmed, and its marks; false at the end of the text, which is a NUL or the bound.
+    /// The next line, trimmed, and its marks; false at the end of the text, which is a NUL or the bound. The
+    /// line is valid until the next one: one with carriage returns inside is put together without them.
     bool ReadALine(units::view& line, LineMarks& marks);
     /// False while units are left, behind a NUL too.
     bool IsAtEnd() const { return m_p == m_pEnd; }
 
 private:
-    bool CloseUp(char16_t* begin, units::view& line);
+    bool CloseUp(units::view& line);
 
-    char16_t* m_p;
-    char16_t* m_pEnd;
+    const char16_t* m_p;
+    const char16_t* m_pEnd;
+    textline::CLineMarker m_marker;
+    std::u16string m_strClosed;
 };
 
 /// The kind of a trimmed line with its marks.
-TARVO_API LINE_TYPE GetLineType(units::view line, const LineMarks& marks);
+TARVO_API LINE_TYPE GetLineType(const units::view& line, const LineMarks& marks);
 
 /// The name between the brackets of a section line, trimmed; empty when there is none.
 TARVO_API units::view ParseSection(units::view line);
@@ -53,7 +57,8 @@ TARVO_API units::view ParseSection(units::view line);
 /// with none the whole field. The field is counted from the line's end by the length of the trimmed key, so
 /// in «key = x» it is «= x»; written files quote every value, which makes that harmless.
 /// False for an empty line, a comment, a line that begins with "[" and one without "=".
-TARVO_API bool ParseData(units::view line, const LineMarks& marks, units::view& key, units::view& value);
+TARVO_API bool ParseData(const units::view& line, const LineMarks& marks, units::view& key,
+                         units::view& value);
 
 /// The first character behind the blanks (U+0020) and tabs at \p psz.
 TARVO_API const wchar_t* SkipWhiteSpace(const wchar_t* psz);

@@ -1,24 +1,24 @@
 #pragma once
 
 #include "tarvo/export.h"
-#include "tarvo/lang/EntryBlock.h"
-#include "tarvo/text/TextArena.h"
+#include "tarvo/lang/IniEntry.h"
 #include "tarvo/text/Units.h"
 
 #include <cstdint>
 #include <vector>
+
+class CIniStore;
 
 /// The keys and values of one section, as XIni::GetSection hands them out. It belongs to its document and
 /// stays at its address until the document is cleared. Keys are compared exactly, with letter case.
 class TARVO_API CKeyTable
 {
 public:
-    CKeyTable(units::view name, CTextArena& texts) : m_block(name), m_pTexts(&texts) {}
     CKeyTable(const CKeyTable&) = delete;
     CKeyTable& operator=(const CKeyTable&) = delete;
 
     CString GetName() const { return units::to_string(Name()); }
-    int GetCount() const { return static_cast<int>(m_block.GetCount()); }
+    int GetCount() const { return static_cast<int>(m_entries.count); }
     /// 1 and the value of \p key, or 0 with \p value as it was.
     int Lookup(const wchar_t* key, CString& value) const;
     /// Key and value number \p index, 0 to GetCount() - 1, in the ordinal order of the keys.
@@ -27,33 +27,35 @@ public:
     void SetAt(const wchar_t* key, const wchar_t* value);
 
     /// The same over units. What Name, Find and Sorted give is valid until the next change.
-    units::view Name() const { return m_block.GetName(); }
+    units::view Name() const { return {reinterpret_cast<const char16_t*>(this + 1), m_nName}; }
     const IniEntry* Find(units::view key) const;
     const IniEntry& Sorted(std::size_t index) const;
     void Set(units::view key, units::view value);
-    /// An entry in this document's arena, which is to be merged.
-    IniEntry MakeEntry(units::view key, units::view value) { return {*m_pTexts, key, value}; }
-    /// Takes entries in; the last of several with one key wins.
-    void Merge(const std::vector<IniEntry>& entries);
-    /// Units of all keys and values.
-    std::size_t GetTextSize() const { return m_nTextSize; }
-    /// Units that the entries take in the arena.
-    std::size_t GetSize() const { return m_nTextSize + m_block.GetCount() * IniEntry::kHead; }
-    /// Takes over the entries of another document's table; MoveTexts has to follow.
-    void CopyEntries(const CKeyTable& source);
-    /// Moves every entry to \p room, which has GetSize() units, and returns what lies behind them.
-    char16_t* MoveTexts(char16_t* room);
 
 private:
-    IniEntry* Find(units::view key, std::uint32_t hash);
-    void Insert(IniEntry entry, std::uint32_t hash);
-    void Index(std::size_t slots);
+    friend class CIniStore;
 
-    CEntryBlock m_block;
-    CTextArena* m_pTexts;
-    std::size_t m_nTextSize = 0;
-    /// Positions plus one by hash, open addressing; only sections of more than kShort keys have it.
-    std::vector<std::uint32_t> m_arrSlot;
-    /// Positions in the order of the keys, made when asked for; shorter than the block when out of date.
-    mutable std::vector<std::uint32_t> m_arrOrder;
+    /// A chain through IniEntry::m_nNext in the order of adding, those that were replaced among them.
+    struct Entries
+    {
+        IniEntry::Ref first = IniEntry::kNone;
+        IniEntry::Ref last = IniEntry::kNone;
+        std::uint32_t count = 0;  ///< without those that were replaced
+        std::size_t textSize = 0; ///< units of the keys and values of these
+    };
+
+    /// The name's units have to be put behind the table.
+    CKeyTable(CIniStore& store, IniEntry::Ref section, units::view name)
+        : m_pStore(&store), m_nSection(section), m_nHash(units::hash(name)),
+          m_nName(static_cast<std::uint32_t>(name.size()))
+    {
+    }
+
+    CIniStore* m_pStore;
+    IniEntry::Ref m_nSection; ///< what its entries name it by
+    std::uint32_t m_nHash;    ///< of the name
+    std::uint32_t m_nName;
+    Entries m_entries;
+    /// In the order of the keys, made when asked for; empty when out of date.
+    mutable std::vector<const IniEntry*> m_arrOrder;
 };

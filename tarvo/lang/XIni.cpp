@@ -5,7 +5,6 @@
 #include "tarvo/lang/IniStore.h"
 
 #include <algorithm>
-#include <cstring>
 #include <cwchar>
 #include <new>
 #include <utility>
@@ -18,10 +17,15 @@ XIni::~XIni() = default;
 
 XIni::XIni(const XIni& source)
     : m_pStore(std::make_unique<CIniStore>(*source.m_pStore)), m_strLastFound(source.m_strLastFound),
-      m_pLastFound(m_pStore->Twin(*source.m_pStore, source.m_pLastFound)),
-      m_pDefault(m_pStore->Twin(*source.m_pStore, source.m_pDefault)), m_nCodePage(source.m_nCodePage),
-      m_bOpened(source.m_bOpened)
+      m_pLastFound(Twin(source.m_pLastFound)), m_pDefault(Twin(source.m_pDefault)),
+      m_nCodePage(source.m_nCodePage), m_bOpened(source.m_bOpened)
 {
+}
+
+/// This document's section of the same name.
+CKeyTable* XIni::Twin(const CKeyTable* section) const
+{
+    return section ? m_pStore->Find(section->Name()) : nullptr;
 }
 
 XIni& XIni::operator=(const XIni& source)
@@ -105,45 +109,62 @@ std::size_t PieceOf(std::string_view bytes)
 class XIni::CParser
 {
 public:
-    explicit CParser(XIni& ini) : m_ini(ini) { m_entries.reserve(64); }
+    /// For a text of \p size, in whatever unit.
+    CParser(XIni& ini, std::size_t size) : m_ini(ini), m_nLeft(size) {}
 
-    /// Parses \p count units, which it changes; false when a NUL among them ends the text.
-    bool Take(char16_t* text, std::size_t count);
-    /// The same for \p count units of a longer text, which \p copy (out, first, count) puts in place.
-    template <class Copy>
-    void TakeAll(std::size_t count, Copy copy);
+    /// Parses a piece, which is \p size of the text; false when a NUL in it ends the text.
+    bool Take(units::view piece, std::size_t size);
+    /// Parses a whole text.
+    void TakeAll(units::view text);
+    void TakeAll(const wchar_t* text, std::size_t count);
     void Finish()
     {
-        CloseSection();
         m_ini.m_pStore->Tidy();
         m_ini.m_bOpened = 1;
     }
 
 private:
-    void TakeLine(units::view line, const initext::LineMarks& marks);
-    void CloseSection()
-    {
-        if (m_pSection)
-            m_pSection->Merge(m_entries);
-        m_entries.clear();
-    }
+    void TakeLine(const units::view& line, const initext::LineMarks& marks);
+    void Foresee(std::size_t entries, std::size_t size);
 
     XIni& m_ini;
+    std::size_t m_nLeft;
     CKeyTable* m_pSection = nullptr;
-    std::vector<IniEntry> m_entries; ///< of the current section
+    bool m_bForeseen = false;
 };
 
-bool XIni::CParser::Take(char16_t* text, std::size_t count)
+bool XIni::CParser::Take(units::view piece, std::size_t size)
 {
-    initext::CLineReader reader(text, count);
+    const std::size_t before = m_ini.m_pStore->GetEntryCount();
+    initext::CLineReader reader(piece);
     initext::LineMarks marks;
     for (units::view line; reader.ReadALine(line, marks);)
         TakeLine(line, marks);
+    m_nLeft -= size;
+    if (!m_bForeseen)
+        Foresee(m_ini.m_pStore->GetEntryCount() - before, size);
     return reader.IsAtEnd();
 }
 
-template <class Copy>
-void XIni::CParser::TakeAll(std::size_t count, Copy copy)
+/// The first piece tells how many entries the others bring.
+void XIni::CParser::Foresee(std::size_t entries, std::size_t size)
+{
+    if (size != 0)
+        m_ini.m_pStore->Reserve(m_ini.m_pStore->GetEntryCount() +
+                                entries * (m_nLeft / size + (m_nLeft != 0)) * 9 / 8);
+    m_bForeseen = true;
+}
+
+void XIni::CParser::TakeAll(units::view text)
+{
+    const std::size_t feed = text.find(u'\n', kPiece);
+    const units::view first = text.substr(0, feed == units::view::npos ? feed : feed + 1);
+    text.remove_prefix(first.size());
+    if (Take(first, first.size()))
+        Take(text, text.size());
+}
+
+void XIni::CParser::TakeAll(const wchar_t* text, std::size_t count)
 {
     std::vector<char16_t> piece;
     std::size_t held = 0;
@@ -151,35 +172,34 @@ void XIni::CParser::TakeAll(std::size_t count, Copy copy)
     {
         const std::size_t more = std::min(kPiece, count - at);
         piece.resize(std::max(piece.size(), held + more));
-        copy(piece.data() + held, at, more);
+        units::narrow(text + at, more, piece.data() + held);
         at += more;
         const units::view fresh(piece.data() + held, more);
         const std::size_t feed = fresh.rfind(u'\n');
         const std::size_t whole = at == count ? held + more : feed == units::view::npos ? 0 : held + feed + 1;
         held += more;
-        if (!Take(piece.data(), whole))
+        if (!Take({piece.data(), whole}, more))
             return;
         std::copy(piece.data() + whole, piece.data() + held, piece.data());
         held -= whole;
     }
 }
 
-void XIni::CParser::TakeLine(units::view line, const initext::LineMarks& marks)
+void XIni::CParser::TakeLine(const units::view& line, const initext::LineMarks& marks)
 {
     units::view key, value;
     switch (initext::GetLineType(line, marks))
     {
     case initext::LINE_SECTION:
-        CloseSection();
         m_pSection = m_ini.StartSection(initext::ParseSection(line));
         break;
     case initext::LINE_DATA:
         if (m_pSection && initext::ParseData(line, marks, key, value))
-            m_entries.push_back(m_pSection->MakeEntry(key, value));
+            m_ini.m_pStore->Set(*m_pSection, key, value);
         break;
     case initext::LINE_OTHER:
         if (m_pSection)
-            m_entries.push_back(m_pSection->MakeEntry(line, {}));
+            m_ini.m_pStore->Set(*m_pSection, line, {});
         break;
     case initext::LINE_COMMENT:
     case initext::LINE_BLANK:
@@ -191,10 +211,8 @@ int XIni::OpenMemory(const wchar_t* text, int length)
 try
 {
     const std::size_t count = text && length > 0 ? ::wcsnlen(text, static_cast<std::size_t>(length)) : 0;
-    CParser parser(*this);
-    parser.TakeAll(count, [text](char16_t* out, std::size_t first, std::size_t more) {
-        units::narrow(text + first, more, out);
-    });
+    CParser parser(*this, count);
+    parser.TakeAll(text, count);
     parser.Finish();
     return 1;
 }
@@ -209,11 +227,9 @@ int XIni::ParseBytes(std::string_view bytes)
         return 0;
     if (!initext::IsUnicodeFileHeader(bytes))
         return Ascii2Unicode(bytes);
-    const char* const text = bytes.data() + 2;
-    CParser parser(*this);
-    parser.TakeAll((bytes.size() - 2) / 2, [text](char16_t* out, std::size_t first, std::size_t more) {
-        std::memcpy(out, text + 2 * first, 2 * more);
-    });
+    const CAlignedUnits text(bytes.data() + 2, (bytes.size() - 2) / 2);
+    CParser parser(*this, units::view(text).size());
+    parser.TakeAll(text);
     parser.Finish();
     return 1;
 }
@@ -223,7 +239,7 @@ int XIni::Ascii2Unicode(std::string_view bytes)
     if (!platform::codepage::known(m_nCodePage))
         return 0;
     bytes = bytes.substr(0, bytes.find('\0'));
-    CParser parser(*this);
+    CParser parser(*this, bytes.size());
     std::vector<char16_t> decoded;
     while (!bytes.empty())
     {
@@ -231,7 +247,7 @@ int XIni::Ascii2Unicode(std::string_view bytes)
         bytes.remove_prefix(piece.size());
         decoded.resize(std::max(decoded.size(), piece.size()));
         const std::size_t count = platform::codepage::decode(m_nCodePage, piece, decoded.data()).value_or(0);
-        if (!parser.Take(decoded.data(), count))
+        if (!parser.Take({decoded.data(), count}, piece.size()))
             break;
     }
     parser.Finish();
@@ -260,9 +276,12 @@ CKeyTable* XIni::FindSection(const wchar_t* section)
     if (!section)
         return m_pDefault;
     const CUnits name(section);
-    if (CKeyTable* cached = CachedSection(name))
-        return cached;
-    CKeyTable* const found = m_pStore->Find(name);
+    CKeyTable* const cached = CachedSection(name);
+    return cached ? cached : Remember(name, m_pStore->Find(name));
+}
+
+CKeyTable* XIni::Remember(units::view name, CKeyTable* found)
+{
     if (found)
     {
         m_strLastFound = name;
@@ -284,8 +303,15 @@ CKeyTable* XIni::GetOrMakeSection(const wchar_t* section)
 
 const IniEntry* XIni::FindEntry(const wchar_t* section, const wchar_t* key)
 {
-    const CKeyTable* const table = FindSection(section);
-    return table ? table->Find(CUnits(key)) : nullptr;
+    const CUnits name(section), keyName(key);
+    if (const CKeyTable* const table = section ? CachedSection(name) : m_pDefault)
+        return table->Find(keyName);
+    if (!section)
+        return nullptr;
+    CKeyTable* table;
+    const IniEntry* const entry = m_pStore->Find(name, keyName, table);
+    Remember(name, table);
+    return entry;
 }
 
 CString XIni::GetStr(const wchar_t* section, const wchar_t* key, const wchar_t* defaultValue)

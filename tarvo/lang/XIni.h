@@ -105,7 +105,9 @@ private:
     int ParseBytes(std::string_view bytes);
     int Ascii2Unicode(std::string_view bytes);
     CKeyTable* StartSection(units::view name);
+    CKeyTable* Twin(const CKeyTable* section) const;
     CKeyTable* CachedSection(units::view name) const;
+    CKeyTable* Remember(units::view name, CKeyTable* found);
     CKeyTable* FindSection(const wchar_t* section);
     CKeyTable* FindOrMakeSection(units::view section);
     const IniEntry* FindEntry(const wchar_t* section, const wchar_t* key);

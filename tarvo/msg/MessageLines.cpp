@@ -65,6 +65,7 @@ CStdioLines::CStdioLines(std::string_view bytes, int codePage)
     {
         const std::size_t count = bytes.size() / sizeof(char16_t);
         m_wide = units::view(reinterpret_cast<const char16_t*>(bytes.data()), count).substr(1);
+        m_marker = textline::CLineMarker(m_wide);
         return;
     }
     // The mark of UTF-8 is passed over unseen, so that a file without one loses three bytes.
@@ -90,11 +91,10 @@ bool CStdioLines::NextWide(units::view& line, textline::LineMarks& marks)
     const char16_t* const begin = m_wide.data();
     // A line that has no break within two units of its most is cut.
     const char16_t* const end = begin + std::min(kMost + 2, m_wide.size());
-    const char16_t* stop = textline::MarkLine(begin, end, marks);
+    const char16_t* stop = m_marker.Mark(begin, end, marks);
     while (stop != end && *stop != u'\n')
-        stop = stop[0] == u'\r' && end - stop > 1 && stop[1] == u'\n'
-                   ? stop + 1
-                   : textline::MarkLine(stop + 1, end, marks);
+        stop = stop[0] == u'\r' && end - stop > 1 && stop[1] == u'\n' ? stop + 1
+                                                                      : m_marker.Mark(stop + 1, end, marks);
     line = units::view(begin, static_cast<std::size_t>(stop - begin));
     if (line.ends_with(u'\r'))
         line.remove_suffix(1);
@@ -105,6 +105,7 @@ bool CStdioLines::NextWide(units::view& line, textline::LineMarks& marks)
         taken = pair ? kMost - 1 : kMost;
         line = line.substr(0, taken);
         marks = textline::MarkLine(line);
+        m_marker = textline::CLineMarker(m_wide.substr(taken)); // it may have gone further
     }
     m_wide.remove_prefix(taken);
     return true;

@@ -66,6 +66,7 @@ private:
     bool NextBytes(units::view& line);
 
     units::view m_wide;
+    textline::CLineMarker m_marker; ///< of m_wide
     std::string_view m_bytes;
     bool m_bWide;
     int m_codePage;

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "tarvo/export.h"
+#include "tarvo/text/RecordArena.h"
+#include "tarvo/text/RefTable.h"
 #include "tarvo/text/Units.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -60,60 +60,27 @@ private:
         units::view Key() const { return {Units(), keyLength}; }
         units::view Value() const { return {Units() + keyLength, valueLength}; }
     };
-    /// Where a record is: the block in the upper 16 bits, its place there in grains in the lower.
-    using Ref = std::uint32_t;
-    /// A record's Ref plus one in the lower m_nRefBits, above them as many bits of its key's hash as there is
-    /// room for; 0 for an empty slot. The table is small, so that it stays in the processor's cache.
-    using Slot = std::uint32_t;
+    using Ref = CRecordArena::Ref;
 
-    static constexpr std::size_t kGrain = alignof(Record);           ///< bytes
-    static constexpr std::size_t kMostBlock = kGrain << 16;          ///< bytes of a block with many records
-    static constexpr std::size_t kFirstBlock = std::size_t{4} << 10; ///< bytes; the next ones grow
     static constexpr std::uint32_t kReplaced = 1u << 31; ///< in a keyLength: another record has the key now
-
-    struct Free
-    {
-        void operator()(char* p) const { std::free(p); }
-    };
-    struct Block
-    {
-        std::unique_ptr<char, Free> bytes;
-        std::size_t size;
-        std::size_t used;
-    };
 
     static std::size_t BytesOf(std::size_t units);
     static std::size_t BytesOf(const Record& record);
-    static std::size_t SlotsFor(std::size_t count) { return count * 5 / 4 + 1; }
-    Record& At(Slot slot) const
-    {
-        const Ref ref = (slot & ~TagMask()) - 1;
-        return *reinterpret_cast<Record*>(m_arrBlock[ref >> 16].bytes.get() + (ref & 0xFFFF) * kGrain);
-    }
-    std::uint32_t TagMask() const { return static_cast<std::uint32_t>(~std::uint64_t{0} << m_nRefBits); }
-    std::uint32_t TagOf(std::uint32_t hash) const
-    {
-        return static_cast<std::uint32_t>(std::uint64_t{hash} << m_nRefBits);
-    }
-    std::size_t HomeOf(std::uint32_t hash) const { return std::uint64_t{hash} * m_arrSlot.size() >> 32; }
-    std::size_t Next(std::size_t slot) const { return slot + 1 == m_arrSlot.size() ? 0 : slot + 1; }
-    /// The slot of \p key, or the empty one where it belongs.
+    Record& At(Ref ref) const { return *reinterpret_cast<Record*>(m_records.At(ref)); }
+    /// The slot of \p key, or the free one where it belongs.
     std::size_t SlotOf(units::view key, std::uint32_t hash) const;
-    void Place(std::size_t slot, std::uint32_t hash, units::view key, units::view value);
+    void Add(std::size_t slot, std::uint32_t hash, units::view key, units::view value);
+    void Place(std::size_t slot, std::uint32_t hash, Ref ref);
     Ref Append(std::uint32_t hash, units::view key, units::view value);
-    char* Take(std::size_t bytes, Ref& ref);
-    void AddBlock(std::size_t least);
     void MakeRoom();
-    void Index(std::size_t slots);
+    void Index(std::size_t count);
     void Tidy();
     /// Calls visit(record, ref) for every message.
     template <class Visit>
     void ForEach(Visit visit) const;
 
-    std::vector<Slot> m_arrSlot;
-    std::vector<Block> m_arrBlock;
-    unsigned m_nRefBits = 16;
-    std::size_t m_nBlock = 0; ///< the block that is being filled; those behind it are empty
+    CRecordArena m_records;
+    CRefTable m_table;
     std::size_t m_nCount = 0;
     std::size_t m_nUsed = 0; ///< bytes of all records
     std::size_t m_nDead = 0; ///< of these, bytes of records that were replaced

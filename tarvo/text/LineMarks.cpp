@@ -9,56 +9,89 @@ namespace textline
 {
 namespace
 {
-constexpr std::ptrdiff_t kBlock = CUnitBlock::kCount;
+constexpr std::size_t kBlock = CUnitBlock::kCount;
 
-struct BlockMarks
+/// A bit for each unit of a block that Mark has to look at.
+std::uint64_t MarksOf(const char16_t* units) { return CUnitBlock(units).Below16Or(u'=', u'"', u'/'); }
+
+/// Without the instruction for it, which not every x86-64 has, the library's own would be a call.
+std::size_t CountOf(std::uint64_t bits)
 {
-    explicit BlockMarks(const CUnitBlock& block)
-        : control(block.Below16()), equals(block.Equal(u'=')), quotes(block.Equal(u'"')),
-          slashes(block.Equal(u'/'))
-    {
-    }
-    std::uint64_t control, equals, quotes, slashes;
-};
+    bits -= bits >> 1 & 0x5555555555555555;
+    bits = (bits & 0x3333333333333333) + (bits >> 2 & 0x3333333333333333);
+    return ((bits + (bits >> 4)) & 0x0F0F0F0F0F0F0F0F) * 0x0101010101010101 >> 56;
+}
 
-/// The last units of a text, fewer than a block: what is missing counts as an end.
-BlockMarks MarkRest(const char16_t* p, std::ptrdiff_t count)
+std::uint64_t MarksOfRest(const char16_t* units, std::size_t count)
 {
     char16_t padded[kBlock] = {};
-    std::copy_n(p, count, padded);
-    return BlockMarks(CUnitBlock(padded));
+    std::copy_n(units, count, padded);
+    return MarksOf(padded) & ((std::uint64_t{1} << count) - 1);
 }
 } // namespace
 
-const char16_t* MarkLine(const char16_t* first, const char16_t* last, LineMarks& marks)
+bool CLineMarker::LookAhead()
 {
-    for (; first != last; first += std::min(kBlock, last - first))
+    m_pNoted = m_pAhead;
+    m_nNext = m_nCount = 0;
+    const std::size_t size = std::min(kAhead, static_cast<std::size_t>(m_pEnd - m_pNoted));
+    for (std::size_t at = 0; at < size; at += kBlock)
     {
-        const BlockMarks block =
-            last - first >= kBlock ? BlockMarks(CUnitBlock(first)) : MarkRest(first, last - first);
-        const std::uint64_t before =
-            ~block.control & (block.control - 1); // all bits when there is no control
-        if (const std::uint64_t equals = block.equals & before; equals && !marks.equals)
-            marks.equals = first + std::countr_zero(equals);
-        if (const std::uint64_t quotes = block.quotes & before)
+        std::uint64_t marks =
+            size - at < kBlock ? MarksOfRest(m_pNoted + at, size - at) : MarksOf(m_pNoted + at);
+        std::uint16_t* place = m_arrPlace + m_nCount;
+        m_nCount += CountOf(marks);
+        // Eight at a time, whether there are as many or not: most blocks have no more.
+        for (; marks != 0; place += kAtATime)
+#pragma GCC unroll 8
+            for (std::size_t i = 0; i < kAtATime; ++i, marks &= marks - 1)
+                place[i] = static_cast<std::uint16_t>(at + static_cast<unsigned>(std::countr_zero(marks)));
+    }
+    m_pAhead = m_pNoted + size;
+    return size != 0;
+}
+
+const char16_t* CLineMarker::Mark(const char16_t* first, const char16_t* last, LineMarks& marks)
+{
+    for (;; ++m_nNext)
+    {
+        if (m_nNext == m_nCount)
+        {
+            if (m_pAhead >= last || !LookAhead())
+                return last;
+            --m_nNext;
+            continue;
+        }
+        const char16_t* const at = m_pNoted + m_arrPlace[m_nNext];
+        if (at < first)
+            continue;
+        if (at >= last)
+            return last;
+        if (*at == u'=')
+        {
+            if (!marks.equals)
+                marks.equals = at;
+        }
+        else if (*at == u'"')
         {
             if (!marks.quote)
-                marks.quote = first + std::countr_zero(quotes);
-            marks.lastQuote = first + 63 - std::countl_zero(quotes);
+                marks.quote = at;
+            marks.lastQuote = at;
         }
-        marks.slash |= (block.slashes & before) != 0;
-        if (block.control)
-            return std::min(first + std::countr_zero(block.control), last);
+        else if (*at == u'/')
+            marks.slash = true;
+        else
+            return at;
     }
-    return last;
 }
 
 LineMarks MarkLine(units::view line)
 {
     const char16_t* const end = line.data() + line.size();
+    CLineMarker marker(line);
     LineMarks marks;
-    for (const char16_t* p = MarkLine(line.data(), end, marks); p != end;)
-        p = MarkLine(p + 1, end, marks);
+    for (const char16_t* p = marker.Mark(line.data(), end, marks); p != end;)
+        p = marker.Mark(p + 1, end, marks);
     return marks;
 }
 } // namespace textline

@@ -109,34 +109,22 @@ const char16_t* find(const char16_t* first, const char16_t* last, char16_t unit)
     return find_wanted(first, last, One{unit});
 }
 
+const char16_t* find_pair(const char16_t* first, const char16_t* last, char16_t unit, char16_t next)
+{
+#if defined(__SSE2__)
+    for (; last - first > 8; first += 8)
+        if (const unsigned hit = hit_bits(first, One{unit}) & hit_bits(first + 1, One{next}))
+            return first + std::countr_zero(hit) / 2;
+#endif
+    for (; last - first > 1; ++first)
+        if (first[0] == unit && first[1] == next)
+            return first;
+    return last;
+}
+
 const char16_t* find_break(const char16_t* first, const char16_t* last)
 {
     return find_wanted(first, last, Either{u'\n', u'\r'});
-}
-
-std::uint32_t hash(view text)
-{
-    constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15;
-    const auto mix = [](std::uint64_t a, std::uint64_t b) {
-        __extension__ const unsigned __int128 product = static_cast<unsigned __int128>(a) * b;
-        return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
-    };
-    const char16_t* p = text.data();
-    std::size_t left = text.size();
-    std::uint64_t h = left * kFactor;
-    for (; left > 8; left -= 8, p += 8)
-        h = mix(load(p) ^ kFactor, load(p + 4) ^ h);
-    // The last words overlap what went before, so that they are whole ones.
-    std::uint64_t first = 0, last = 0;
-    if (left >= 4)
-    {
-        first = load(p);
-        last = load(p + left - 4);
-    }
-    else
-        for (std::size_t i = 0; i < left; ++i)
-            first = first << 16 | p[i];
-    return static_cast<std::uint32_t>(mix(mix(first ^ kFactor, last ^ h), kFactor));
 }
 
 bool equal(view a, view b)
@@ -239,4 +227,16 @@ CUnits::CUnits(const wchar_t* psz)
     }
     units::narrow(psz, length, out);
     m_view = units::view(out, length);
+}
+
+CAlignedUnits::CAlignedUnits(const void* bytes, std::size_t count)
+{
+    if (reinterpret_cast<std::uintptr_t>(bytes) % alignof(char16_t) == 0)
+    {
+        m_view = {static_cast<const char16_t*>(bytes), count};
+        return;
+    }
+    m_pCopy = std::make_unique_for_overwrite<char16_t[]>(count);
+    std::memcpy(m_pCopy.get(), bytes, count * sizeof(char16_t));
+    m_view = {m_pCopy.get(), count};
 }

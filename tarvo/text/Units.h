@@ -6,6 +6,7 @@
 #include <afxstr.h>
 
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <string_view>
 
@@ -13,20 +14,53 @@
 /// is what the readers of files need over such runs: four units are looked at in one step.
 namespace units
 {
+/// Windows hands views over in memory, and copying one that was just written there waits for it: what every
+/// line of a file passes through takes them by reference or is inline.
 using view = std::u16string_view;
 
 /// The first unit of [\p first, \p last) that equals \p unit; \p last when there is none.
 TARVO_API const char16_t* find(const char16_t* first, const char16_t* last, char16_t unit);
+/// The first \p unit that \p next follows.
+TARVO_API const char16_t* find_pair(const char16_t* first, const char16_t* last, char16_t unit,
+                                    char16_t next);
 /// The first line feed or carriage return.
 TARVO_API const char16_t* find_break(const char16_t* first, const char16_t* last);
 
-TARVO_API std::uint32_t hash(view text);
+inline std::uint32_t hash(const view& text)
+{
+    constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15;
+    const auto load = [](const char16_t* four) {
+        std::uint64_t word;
+        std::memcpy(&word, four, sizeof word);
+        return word;
+    };
+    const auto mix = [](std::uint64_t a, std::uint64_t b) {
+        __extension__ const unsigned __int128 product = static_cast<unsigned __int128>(a) * b;
+        return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
+    };
+    const char16_t* p = text.data();
+    std::size_t left = text.size();
+    std::uint64_t h = left * kFactor;
+    for (; left > 8; left -= 8, p += 8)
+        h = mix(load(p) ^ kFactor, load(p + 4) ^ h);
+    // The last words overlap what went before, so that they are whole ones.
+    std::uint64_t first = 0, last = 0;
+    if (left >= 4)
+    {
+        first = load(p);
+        last = load(p + left - 4);
+    }
+    else
+        for (std::size_t i = 0; i < left; ++i)
+            first = first << 16 | p[i];
+    return static_cast<std::uint32_t>(mix(mix(first ^ kFactor, last ^ h), kFactor));
+}
 /// Below, equal to or above zero by the first unit that differs, then by length.
 TARVO_API int compare(view a, view b);
 TARVO_API bool equal(view a, view b);
 TARVO_API bool equal_no_case(view a, view b);
 /// \p text without the white space (platform::letters::is_space) at both ends.
-inline view trim(view text)
+[[gnu::always_inline]] inline view trim(view text)
 {
     while (!text.empty() && platform::letters::is_space(text.back()))
         text.remove_suffix(1);
@@ -35,6 +69,48 @@ inline view trim(view text)
     return text;
 }
 
+/// Copies \p Step bytes, \p Times of them from the front and as many up to the end, over what they share
+/// twice.
+template <std::size_t Step, std::size_t Times = 1>
+void put_ends(char* out, const char* from, std::size_t count)
+{
+    for (std::size_t i = 0; i < Times * Step; i += Step)
+    {
+        std::memcpy(out + i, from + i, Step);
+        std::memcpy(out + count - Step - i, from + count - Step - i, Step);
+    }
+}
+
+/// Puts the bytes of \p text at \p out and returns what lies behind them: for texts that mostly are shorter
+/// than calling memcpy takes.
+inline char* put(char* out, const view& text)
+{
+    const char* const from = reinterpret_cast<const char*>(text.data());
+    const std::size_t count = text.size() * sizeof(char16_t);
+    if (count >= 16)
+    {
+        if (count <= 32)
+            put_ends<16>(out, from, count);
+        else if (count <= 64)
+            put_ends<16, 2>(out, from, count);
+        else if (count <= 128)
+            put_ends<16, 4>(out, from, count);
+        else
+            std::memcpy(out, from, count);
+    }
+    else if (count >= 8)
+        put_ends<8>(out, from, count);
+    else if (count >= 4)
+        put_ends<4>(out, from, count);
+    else if (count != 0)
+        put_ends<2>(out, from, count);
+    return out + count;
+}
+inline char16_t* copy(const view& text, char16_t* out)
+{
+    put(reinterpret_cast<char*>(out), text);
+    return out + text.size();
+}
 /// The same units as a string of the framework.
 TARVO_API CString to_string(view text);
 /// Puts \p count units at \p out, one wide character each.
@@ -57,5 +133,20 @@ private:
     static constexpr std::size_t kShort = 120;
     char16_t m_szShort[kShort];
     std::unique_ptr<char16_t[]> m_pLong;
+    units::view m_view;
+};
+
+/// UTF-16LE bytes as units, copied only where they do not lie as units do.
+class TARVO_API CAlignedUnits
+{
+public:
+    CAlignedUnits(const void* bytes, std::size_t count);
+    CAlignedUnits(const CAlignedUnits&) = delete;
+    CAlignedUnits& operator=(const CAlignedUnits&) = delete;
+
+    operator units::view() const { return m_view; }
+
+private:
+    std::unique_ptr<char16_t[]> m_pCopy;
     units::view m_view;
 };

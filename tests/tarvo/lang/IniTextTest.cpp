@@ -10,9 +10,9 @@ using namespace initext;
 
 namespace
 {
-std::vector<std::u16string> lines_of(std::u16string text)
+std::vector<std::u16string> lines_of(const std::u16string& text)
 {
-    CLineReader reader(text.data(), text.size());
+    CLineReader reader(text);
     std::vector<std::u16string> lines;
     LineMarks marks;
     for (units::view line; reader.ReadALine(line, marks);)
@@ -224,10 +224,39 @@ TEST(IniLines, AreMarkedTheSameHoweverLongTheyAre)
             return found == units::view::npos ? nullptr : line.data() + found;
         };
         LineMarks marks;
-        ASSERT_EQ(MarkLine(text.data(), text.data() + text.size(), marks), text.data() + end);
+        const char16_t* const last = text.data() + text.size();
+        ASSERT_EQ(textline::CLineMarker(text).Mark(text.data(), last, marks), text.data() + end);
         ASSERT_EQ(marks.equals, at(line.find(u'=')));
         ASSERT_EQ(marks.quote, at(line.find(u'"')));
         ASSERT_EQ(marks.lastQuote, at(line.rfind(u'"')));
         ASSERT_EQ(marks.slash, line.find(u'/') != units::view::npos);
     }
+}
+
+TEST(IniLines, OfALongTextAreMarkedAsEachAlone)
+{
+    std::mt19937 random(99);
+    std::u16string text;
+    while (text.size() < 20000)
+    {
+        const bool isDense = random() % 16 == 0;
+        for (std::size_t i = random() % (random() % 9 == 0 ? 3000 : 90); i != 0; --i)
+            text += random() % (isDense ? 2 : 20) == 0 ? u"=\"/\t\u3D3D"[random() % 5] : u'x';
+        text += u'\n';
+    }
+    CLineReader reader(text);
+    std::size_t begin = 0;
+    units::view line;
+    for (LineMarks marks; reader.ReadALine(line, marks);)
+    {
+        const std::size_t end = text.find(u'\n', begin);
+        ASSERT_EQ(line, units::trim(units::view(text).substr(begin, end - begin)));
+        const LineMarks alone = MarkLine(units::view(text).substr(begin, end - begin));
+        ASSERT_EQ(marks.equals, alone.equals);
+        ASSERT_EQ(marks.quote, alone.quote);
+        ASSERT_EQ(marks.lastQuote, alone.lastQuote);
+        ASSERT_EQ(marks.slash, alone.slash);
+        begin = end + 1;
+    }
+    EXPECT_EQ(begin, text.size());
 }

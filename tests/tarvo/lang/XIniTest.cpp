@@ -313,6 +313,74 @@ TEST(XIni, AgreesWithAMapOverManyRandomOperations)
     EXPECT_EQ(dump(ini), expected);
 }
 
+TEST(XIni, KeysOfOneNameInManySectionsAreTheirOwn)
+{
+    XIni ini;
+    const auto name = [](const wchar_t* front, int number) { return front + std::to_wstring(number); };
+    std::wstring text;
+    for (int s = 0; s < 300; ++s)
+    {
+        text += L"[" + name(L"S", s) + L"]\n";
+        for (int k = 0; k < 40; ++k)
+            text += name(L"key", k) + L"=" + std::to_wstring(s * 1000 + k) + L"\n";
+    }
+    parse(ini, text);
+    const XIni copy(ini);
+    XIni copies[] = {ini, copy};
+    for (XIni& each : copies)
+        for (int s = 299; s >= 0; --s)
+        {
+            CKeyTable* const table = each.GetSection(name(L"S", s).c_str());
+            ASSERT_EQ(table->GetCount(), 40);
+            for (int k = 0; k < 40; ++k)
+                ASSERT_EQ(each.GetInt(name(L"S", s).c_str(), name(L"key", k).c_str(), -1, 10), s * 1000 + k);
+            ASSERT_FALSE(table->Find(u"key40"));
+        }
+    EXPECT_EQ(ini.GetStr(L"key1", L"S1", L"none"), L"none") << "section and key are no other way round";
+}
+
+TEST(XIni, AListedTableShowsTheValuesThatReplacedOthers)
+{
+    XIni ini;
+    parse(ini, L"[A]\nb=1\na=1\nc=1\n");
+    EXPECT_EQ(dump(ini), L"[A] a=1; b=1; c=1;");
+    ini.SetStr(L"A", L"b", L"longer than before");
+    EXPECT_EQ(dump(ini), L"[A] a=1; b=longer than before; c=1;");
+    ini.SetStr(L"A", L"b", L"");
+    EXPECT_EQ(dump(ini), L"[A] a=1; b=; c=1;");
+    ini.SetStr(L"A", L"aa", L"new");
+    EXPECT_EQ(dump(ini), L"[A] a=1; aa=new; b=; c=1;");
+    EXPECT_EQ(dump(XIni(ini)), dump(ini));
+}
+
+TEST(XIni, TablesStayWhereTheyAreWhenReplacedValuesMakeRoom)
+{
+    XIni ini;
+    std::map<std::wstring, std::wstring> values;
+    const auto set = [&](const std::wstring& key, std::size_t length) {
+        values[key].assign(length, key.back());
+        ini.SetStr(L"A", key.c_str(), values[key].c_str());
+    };
+    CKeyTable* const table = ini.GetOrMakeSection(L"A");
+    for (int large = 0; large < 40; ++large)
+        set(L"large" + std::to_wstring(large), large % 2 ? 90000 : 10);
+    for (std::size_t length = 0; length < 2000; ++length)
+    {
+        set(L"a", length);
+        set(L"b", 2000 + length);
+        if (length % 500 == 0)
+            dump(ini);
+    }
+    EXPECT_EQ(ini.GetSection(L"A"), table);
+    std::wstring expected = L"[A]";
+    for (const auto& [key, value] : values)
+    {
+        expected += L" " + key + L"=" + value + L";";
+        EXPECT_EQ(ini.GetStr(L"A", key.c_str(), L""), value.c_str()) << testing::PrintToString(key);
+    }
+    EXPECT_TRUE(dump(ini) == expected);
+}
+
 TEST(XIni, HoldsAMillionKeys)
 {
     std::wstring text = L"[many]\n";

@@ -1,0 +1,23 @@
+#include "tarvo/text/RefTable.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace
+{
+/// Of a slot: what is left tells one key from a thousand others, and 8 MB of records have their numbers.
+constexpr unsigned kLeastRefBits = 22;
+} // namespace
+
+void CRefTable::Reset(std::size_t count, Ref most)
+{
+    const std::size_t groups = (std::max<std::size_t>(count, 12) * 5 / 4) / kGroup + 1;
+    const std::size_t slots = groups * kGroup;
+    if (slots == m_arrSlot.size())
+        Clear();
+    else
+        std::vector<Slot>(slots).swap(m_arrSlot);
+    m_nRoom = slots * 4 / 5;
+    const auto bits = static_cast<unsigned>(std::bit_width(std::uint64_t{most} + 1)) + 1;
+    m_nRefBits = std::clamp(bits, kLeastRefBits, 32u);
+}
