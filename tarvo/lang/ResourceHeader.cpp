@@ -3,7 +3,6 @@
 #include "platform/file.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace
 {
@@ -34,23 +33,31 @@ struct StandardButton
 
 constexpr StandardButton standardButtons[] = {{u"IDOK", u"1"}, {u"IDCANCEL", u"2"}, {u"IDCLOSE", u"8"}};
 
-bool IsId(units::view name, std::size_t at) { return name[at] == u'I' && name[at + 1] == u'D'; }
+/// The mark that the "ID" at \p at begins, when it comes before \p best in the list; otherwise that.
+const Mark* MarkAt(const char16_t* at, const char16_t* end, bool fromFile, const Mark* best)
+{
+    const bool isPlain = end - at > 2 && at[2] == u'_';
+    if (!isPlain && (end - at <= 3 || at[3] != u'_'))
+        return best;
+    const char16_t letter = isPlain ? u'\0' : at[2];
+    return std::find_if(std::begin(marks), best, [&](const Mark& mark) {
+        return mark.letter == letter && (mark.inFiles || !fromFile);
+    });
+}
 
 /// The mark that comes first in the list, wherever it stands in the name; null when there is none.
 const Mark* FindMark(units::view name, bool fromFile)
 {
+    const char16_t* const end = name.data() + name.size();
     const Mark* best = std::end(marks);
-    for (std::size_t at = 2; at < name.size(); ++at)
+    for (const char16_t* at = name.data(); best != marks; ++at)
     {
-        if (name[at] != u'_')
-            continue;
-        const bool isPlain = IsId(name, at - 2);
-        if (!isPlain && (at < 3 || !IsId(name, at - 3)))
-            continue;
-        const char16_t letter = isPlain ? u'\0' : name[at - 1];
-        best = std::find_if(std::begin(marks), best, [&](const Mark& mark) {
-            return mark.letter == letter && (mark.inFiles || !fromFile);
-        });
+        // Nearly all names begin with their mark.
+        if (at != name.data() || !name.starts_with(u"ID"))
+            at = units::find_pair(at, end, u'I', u'D');
+        if (at == end)
+            break;
+        best = MarkAt(at, end, fromFile, best);
     }
     return best == std::end(marks) ? nullptr : best;
 }
@@ -71,32 +78,6 @@ std::uint32_t HashOf(units::view value)
     }
     return ((number >> 4) * 0x9E3779B1u >> 10 << 4) | (number & 15);
 }
-
-/// UTF-16LE bytes as units, copied only where they are not aligned as units are.
-class CTextUnits
-{
-public:
-    CTextUnits(const unsigned char* pData, int nChars)
-    {
-        const auto count = static_cast<std::size_t>(std::max(nChars, 0));
-        if (reinterpret_cast<std::uintptr_t>(pData) % alignof(char16_t) == 0)
-        {
-            m_view = {reinterpret_cast<const char16_t*>(pData), count};
-            return;
-        }
-        m_copy.resize(count);
-        std::memcpy(m_copy.data(), pData, count * sizeof(char16_t));
-        m_view = m_copy;
-    }
-    CTextUnits(const CTextUnits&) = delete;
-    CTextUnits& operator=(const CTextUnits&) = delete;
-
-    operator units::view() const { return m_view; }
-
-private:
-    std::u16string m_copy;
-    units::view m_view;
-};
 } // namespace
 
 int CResourceHeader::LoadMemory(const unsigned char* pData, int nChars)
@@ -106,7 +87,7 @@ int CResourceHeader::LoadMemory(const unsigned char* pData, int nChars)
     for (const StandardButton& button : standardButtons)
         Record(All, button.name, button.value);
 
-    const CTextUnits text(pData, nChars);
+    const CAlignedUnits text(pData, static_cast<std::size_t>(std::max(nChars, 0)));
     headertext::CDirectives directives(text);
     for (headertext::Words words; directives.Next(words);)
         TakeDefinition(words, false);
@@ -130,7 +111,7 @@ CString CResourceHeader::FirstWord(const unsigned char* pData, int nChars)
 {
     if (pData == nullptr)
         return {};
-    const CTextUnits text(pData, nChars);
+    const CAlignedUnits text(pData, static_cast<std::size_t>(std::max(nChars, 0)));
     return units::to_string(headertext::ReadWords(text).word[0]);
 }
 
