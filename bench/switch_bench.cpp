@@ -1,6 +1,8 @@
 // Changing the language of what is open, against the bare calls that set the same texts and the same font.
 #include "tarvo/intl/InternationalDlg.h"
+#include "tarvo/intl/InternationalUtil.h"
 #include "tarvo/intl/LanguageSwitch.h"
+#include "tarvo/intl/TemplateFont.h"
 #include "tarvo/lang/INIResourceManager.h"
 #include "tarvo/msg/MSGFunction.h"
 
@@ -46,6 +48,13 @@ std::vector<WORD> make_template()
 class CBenchDlg : public CInternationalDlg
 {
 public:
+    /// As from a resource in the dialog font of the settings, whose changes it follows.
+    BOOL Open(LPCDLGTEMPLATE bytes)
+    {
+        MadeFrom(MAKEINTRESOURCEW(120),
+                 {CInternationalUtil::GetDlgFontName(), CInternationalUtil::GetDlgFontSize()});
+        return CreateIndirect(bytes, nullptr);
+    }
     int TranslateStringToINI() override { return TranslateByTable(120); }
 };
 
@@ -86,7 +95,7 @@ struct Desk
         for (int i = 0; i < kWindows; ++i)
         {
             dialogs.push_back(std::make_unique<CBenchDlg>());
-            dialogs.back()->CreateIndirect(reinterpret_cast<LPCDLGTEMPLATE>(words.data()), nullptr);
+            dialogs.back()->Open(reinterpret_cast<LPCDLGTEMPLATE>(words.data()));
             dialogs.back()->ShowWindow(SW_SHOWNOACTIVATE);
         }
     }
