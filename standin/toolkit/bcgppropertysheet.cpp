@@ -12,6 +12,7 @@ BEGIN_MESSAGE_MAP(CBCGPPropertySheet, CPropertySheet)
 ON_WM_ERASEBKGND()
 ON_WM_CTLCOLOR()
 ON_WM_SYSCOLORCHANGE()
+ON_WM_SIZE()
 END_MESSAGE_MAP()
 
 void CBCGPPropertySheet::EnableVisualManagerStyle(BOOL bEnable, BOOL bNCArea)
@@ -65,6 +66,21 @@ void CBCGPPropertySheet::MakeRoom()
     pages.bottom = pages.top + m_nHeaderHeight;
     m_header.Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, pages, this, 0);
     m_header.SetWindowPos(&wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    CRect client;
+    GetClientRect(client);
+    m_nHeaderMargin = client.right - pages.right;
+}
+
+void CBCGPPropertySheet::OnSize(UINT nType, int cx, int cy)
+{
+    CPropertySheet::OnSize(nType, cx, cy);
+    if (!m_header.m_hWnd || nType == SIZE_MINIMIZED)
+        return;
+    CRect place;
+    m_header.GetWindowRect(place);
+    ScreenToClient(place);
+    m_header.SetWindowPos(nullptr, 0, 0, std::max<int>(0, cx - m_nHeaderMargin - place.left), place.Height(),
+                          SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void CBCGPPropertySheet::OnActivatePage(CPropertyPage*)

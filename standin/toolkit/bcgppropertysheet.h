@@ -25,7 +25,7 @@ public:
     BOOL IsVisualManagerNCArea() const { return m_style.IsNCArea(); }
 
     /// Room above the toolkit's pages, in pixels; 0 for none. Before the window exists: the sheet grows by
-    /// it.
+    /// it. The header's width follows the sheet's.
     void EnablePageHeader(int nHeaderHeight);
     int GetHeaderHeight() const { return m_nHeaderHeight; }
     /// Draws the header of the active page; the default gives it the visual manager's background.
@@ -39,6 +39,7 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg void OnSysColorChange();
+    afx_msg void OnSize(UINT nType, int cx, int cy);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -55,5 +56,6 @@ private:
 
     CBCGPWindowStyle m_style{this};
     int m_nHeaderHeight = 0;
+    int m_nHeaderMargin = 0; ///< at its right
     CHeader m_header;
 };

@@ -164,9 +164,9 @@ void CInternationalPropertySheet::NotePlaces()
         ScreenToClient(place);
         if (child == front->m_hWnd)
             m_page = RectOf(place);
-        if (!page)
-            m_parts.push_back(
-                {child, SheetLayout::PartOf(static_cast<UINT>(::GetDlgCtrlID(child)), false), RectOf(place)});
+        const SheetLayout::PART part = SheetLayout::PartOf(static_cast<UINT>(::GetDlgCtrlID(child)), page);
+        if (!page && part != SheetLayout::PART::Other) // what others have added is theirs
+            m_parts.push_back({child, part, RectOf(place)});
     }
 }
 

@@ -109,6 +109,15 @@ protected:
         tabs->MapWindowPoints(&sheet, room);
         return room;
     }
+    /// The window of the toolkit's that is no part of the system's.
+    static HWND HeaderOf(CPropertySheet& sheet)
+    {
+        HWND child = ::GetWindow(sheet, GW_CHILD);
+        while (child && (::GetDlgCtrlID(child) != 0 ||
+                         DYNAMIC_DOWNCAST(CPropertyPage, CWnd::FromHandlePermanent(child))))
+            child = ::GetWindow(child, GW_HWNDNEXT);
+        return child;
+    }
     /// Shows a sheet of two pages modally and looks at it.
     static void Show(CSizedSheet& sheet, CPropertyPage& first, CPropertyPage& second,
                      const std::function<void()>& look)
@@ -168,7 +177,11 @@ TEST_F(SheetSize, PagesShowWholeBelowAHeader)
     sheet.EnablePageHeader(30);
     Show(sheet, one, wide, [&] {
         ExpectAllToShow(sheet);
-        EXPECT_EQ(PlaceIn(sheet, wide).top, RoomForPages(sheet).top + 30);
+        const CRect page = PlaceIn(sheet, wide);
+        EXPECT_EQ(page.top, RoomForPages(sheet).top + 30);
+        const CRect header = PlaceIn(sheet, HeaderOf(sheet));
+        EXPECT_EQ(header, CRect(page.left, header.top, page.right, header.top + 30));
+        EXPECT_LE(page.top - header.bottom, 1) << "the tabs are higher in the texts' font";
     });
 }
 
