@@ -353,6 +353,42 @@ TEST(XIni, AListedTableShowsTheValuesThatReplacedOthers)
     EXPECT_EQ(dump(XIni(ini)), dump(ini));
 }
 
+TEST(XIni, NamesWithOneHashAreTheirOwn)
+{
+    // Among so many names some pairs have the same hash.
+    std::map<std::uint32_t, std::wstring> known;
+    int pairs = 0;
+    for (int i = 0; i < 200000; ++i)
+    {
+        const std::wstring name = L"name" + std::to_wstring(i);
+        const auto [other, isNew] = known.try_emplace(units::hash(CUnits(name.c_str())), name);
+        if (isNew)
+            continue;
+        ++pairs;
+        const std::wstring& first = other->second;
+        XIni ini;
+        ini.SetStr(first.c_str(), L"key", L"1");
+        ini.SetStr(name.c_str(), L"key", L"2");
+        ini.SetStr(L"S", first.c_str(), L"3");
+        ini.SetStr(L"S", name.c_str(), L"4");
+        EXPECT_EQ(ini.GetStr(first.c_str(), L"key", L""), L"1");
+        EXPECT_EQ(ini.GetStr(name.c_str(), L"key", L""), L"2");
+        EXPECT_EQ(ini.GetStr(L"S", first.c_str(), L""), L"3");
+        EXPECT_EQ(ini.GetStr(L"S", name.c_str(), L""), L"4");
+        EXPECT_EQ(ini.GetSectionCount(), 3);
+    }
+    EXPECT_GT(pairs, 0);
+}
+
+TEST(XIni, WritesNoMoreThanItHoldsAfterValuesBecameShorter)
+{
+    XIni ini, fresh;
+    parse(ini, L"[A]\na=a long value\nb=another one\na=short\n");
+    ini.SetStr(L"A", L"b", L"");
+    parse(fresh, L"[A]\na=short\nb=\n");
+    EXPECT_EQ(ini.Serialize(), fresh.Serialize());
+}
+
 TEST(XIni, TablesStayWhereTheyAreWhenReplacedValuesMakeRoom)
 {
     XIni ini;
@@ -362,6 +398,7 @@ TEST(XIni, TablesStayWhereTheyAreWhenReplacedValuesMakeRoom)
         ini.SetStr(L"A", key.c_str(), values[key].c_str());
     };
     CKeyTable* const table = ini.GetOrMakeSection(L"A");
+    ini.SetStr(L"B", L"left", L"alone");
     for (int large = 0; large < 40; ++large)
         set(L"large" + std::to_wstring(large), large % 2 ? 90000 : 10);
     for (std::size_t length = 0; length < 2000; ++length)
@@ -378,7 +415,7 @@ TEST(XIni, TablesStayWhereTheyAreWhenReplacedValuesMakeRoom)
         expected += L" " + key + L"=" + value + L";";
         EXPECT_EQ(ini.GetStr(L"A", key.c_str(), L""), value.c_str()) << testing::PrintToString(key);
     }
-    EXPECT_TRUE(dump(ini) == expected);
+    EXPECT_TRUE(dump(ini) == expected + L" [B] left=alone;");
 }
 
 TEST(XIni, HoldsAMillionKeys)
