@@ -134,8 +134,10 @@ CChoiceKeeper::List CChoiceKeeper::TakeList(HWND window)
 
 void CChoiceKeeper::PutBack(const List& list)
 {
+    const int count = CountOf(list.window);
     std::vector<Line> lines;
-    for (int i = 0; i < CountOf(list.window); ++i)
+    lines.reserve(static_cast<std::size_t>(count > 0 ? count : 0));
+    for (int i = 0; i < count; ++i)
         lines.push_back(LineAt(list.window, i));
     const Now now = ByData(lines);
     for (const auto& [line, check] : list.checks)

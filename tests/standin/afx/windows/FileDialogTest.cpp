@@ -58,7 +58,7 @@ protected:
     }
     std::wstring Write(const wchar_t* name)
     {
-        const std::wstring path = m_folder / name;
+        std::wstring path = m_folder / name;
         EXPECT_EQ(platform::file::write_whole(path.c_str(), "x"), platform::file::Written::ok);
         return path;
     }

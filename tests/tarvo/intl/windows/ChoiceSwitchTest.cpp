@@ -182,7 +182,8 @@ TEST_F(ChoiceSwitch, DataThatIsMadeAnewCountsForNothing)
     dlg.fill = [&] {
         dlg.FillList({L"apple", L"bread"}, false);
         for (int i = 0; i < 2; ++i) // as pointers to what is allocated anew
-            dlg.list.SetItemData(i, static_cast<DWORD_PTR>(1000 * ++round + i));
+            dlg.list.SetItemData(i, static_cast<DWORD_PTR>(1000) * static_cast<DWORD_PTR>(++round) +
+                                        static_cast<DWORD_PTR>(i));
     };
     Open();
     dlg.Select(1);
