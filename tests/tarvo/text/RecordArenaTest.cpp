@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <map>
 #include <random>
 #include <string>
@@ -26,7 +25,7 @@ std::map<CRecordArena::Ref, Filled> fill(CRecordArena& arena, int count)
         const std::string bytes(CRecordArena::RoundUp(random() % most), static_cast<char>(i));
         CRecordArena::Ref ref;
         char* const room = arena.Take(bytes.size(), ref);
-        std::memcpy(room, bytes.data(), bytes.size());
+        bytes.copy(room, bytes.size());
         if (!bytes.empty() && !records.try_emplace(ref, Filled{room, bytes}).second)
             ADD_FAILURE() << "two records with one number";
     }
