@@ -32,6 +32,13 @@ void windres(benchmark::State& state)
     run(state,
         "x86_64-w64-mingw32-windres --preprocessor=cat -O res -o /dev/null" + quoted("script.numbers.rc"));
 }
+// It writes what it has read; to a file, as it may remove what it was told to write.
+std::string wrc_command(const char* name)
+{
+    return "wrc -O res -o '" + bench::data_path(name) + ".wrc.res'" + quoted(name);
+}
+void wrc(benchmark::State& state) { run(state, wrc_command("script.numbers.rc")); }
+void wrc_small(benchmark::State& state) { run(state, wrc_command("script.small.numbers.rc")); }
 void gnu_diff(benchmark::State& state)
 {
     run(state, "diff" + quoted("script.utf8.rc") + quoted("script.edited.rc"));
@@ -40,5 +47,7 @@ void gnu_diff(benchmark::State& state)
 BENCHMARK(llvm_rc)->UseRealTime();
 BENCHMARK(llvm_rc_small)->UseRealTime();
 BENCHMARK(windres)->UseRealTime();
+BENCHMARK(wrc)->UseRealTime();
+BENCHMARK(wrc_small)->UseRealTime();
 BENCHMARK(gnu_diff)->UseRealTime();
 } // namespace

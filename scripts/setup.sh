@@ -18,7 +18,7 @@ declare -A groups=(
   [tests]="googletest ${readers[*]} ${wine[*]}"
   [demo]="${wine[*]}"
   [bench]="libbenchmark-dev libglib2.0-dev libicu-dev icu-devtools gettext qt6-base-dev qt6-l10n-tools
-    libboost-locale-dev pkg-config googletest llvm diffutils ${wine[*]}"
+    libboost-locale-dev pkg-config googletest llvm diffutils wine64-tools ${wine[*]}"
   [fuzz]="clang libclang-rt-dev llvm"
   [lint]="clang-format clang-tidy cppcheck git googletest ${wine[*]}"
   [coverage]="gcovr googletest"
