@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <memory>
@@ -19,6 +20,29 @@ extern const wchar_t separator;
 /// Reads a whole regular file of at most \p most bytes. Nothing when it is missing, unreadable, a
 /// folder or a device, larger, or comes up short; an empty file gives empty bytes.
 std::optional<std::string> read_whole(const wchar_t* path, std::uint64_t most);
+
+/// A regular file that is read piece by piece, for those who take it apart on the way.
+class input
+{
+public:
+    /// Opens what read_whole would read.
+    static std::optional<input> open(const wchar_t* path, std::uint64_t most);
+
+    /// Bytes of the file when it was opened.
+    std::uint64_t size() const;
+    /// Reads the next \p count bytes. False when the file has fewer by now or cannot be read.
+    bool read(char* to, std::size_t count);
+
+private:
+    struct state;
+    struct closer
+    {
+        void operator()(state* opened) const;
+    };
+    explicit input(state* opened) : m_state(opened) {}
+
+    std::unique_ptr<state, closer> m_state;
+};
 
 enum class Written
 {

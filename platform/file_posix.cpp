@@ -109,31 +109,45 @@ Written replace_regular(const std::string& path, const struct stat* old, std::st
 }
 } // namespace
 
-bool read_all(int fd, std::string& bytes)
+bool read_all(int fd, char* to, std::size_t count)
 {
-    std::size_t done = 0;
-    while (done < bytes.size())
+    while (count != 0)
     {
-        const ssize_t n = ::read(fd, bytes.data() + done, bytes.size() - done);
+        const ssize_t n = ::read(fd, to, count);
         if (n < 0 && errno == EINTR)
             continue;
         if (n <= 0)
             return false;
-        done += static_cast<std::size_t>(n);
+        to += n;
+        count -= static_cast<std::size_t>(n);
     }
     return true;
 }
 
-std::optional<std::string> read_whole(const char* path, std::uint64_t most)
+namespace
+{
+/// Nothing for what is no regular file, and for one of more than \p most bytes.
+Descriptor open_regular(const char* path, std::uint64_t most, std::uint64_t& size)
 {
     // Without O_NONBLOCK a pipe without a writer would hold the caller for ever.
     Descriptor fd(::open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat info;
     if (!fd || ::fstat(fd.get(), &info) != 0 || !S_ISREG(info.st_mode) ||
         static_cast<std::uint64_t>(info.st_size) > most)
+        return Descriptor();
+    size = static_cast<std::uint64_t>(info.st_size);
+    return fd;
+}
+} // namespace
+
+std::optional<std::string> read_whole(const char* path, std::uint64_t most)
+{
+    std::uint64_t size = 0;
+    const Descriptor fd = open_regular(path, most, size);
+    if (!fd)
         return std::nullopt;
-    std::string bytes(static_cast<std::size_t>(info.st_size), '\0');
-    if (!read_all(fd.get(), bytes))
+    std::string bytes(static_cast<std::size_t>(size), '\0');
+    if (!read_all(fd.get(), bytes.data(), bytes.size()))
         return std::nullopt;
     return bytes;
 }
@@ -179,6 +193,27 @@ std::optional<std::string> read_whole(const wchar_t* path, std::uint64_t most)
 {
     return posix::read_whole(path_bytes(path).c_str(), most);
 }
+
+struct input::state
+{
+    posix::Descriptor fd;
+    std::uint64_t size;
+};
+
+void input::closer::operator()(state* opened) const { delete opened; }
+
+std::optional<input> input::open(const wchar_t* path, std::uint64_t most)
+{
+    std::uint64_t size = 0;
+    posix::Descriptor fd = posix::open_regular(path_bytes(path).c_str(), most, size);
+    if (!fd)
+        return std::nullopt;
+    return input(new state{std::move(fd), size});
+}
+
+std::uint64_t input::size() const { return m_state->size; }
+
+bool input::read(char* to, std::size_t count) { return posix::read_all(m_state->fd.get(), to, count); }
 
 Written write_whole(const wchar_t* path, std::string_view bytes)
 {

@@ -27,8 +27,8 @@ private:
     int m_fd;
 };
 
-/// Fills \p bytes from the file's position on. False when the file ends before.
-bool read_all(int fd, std::string& bytes);
+/// Reads \p count bytes from the file's position on. False when the file ends before.
+bool read_all(int fd, char* to, std::size_t count);
 
 std::optional<std::string> read_whole(const char* path, std::uint64_t most);
 Written write_whole(const char* path, std::string_view bytes);

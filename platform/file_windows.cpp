@@ -63,17 +63,17 @@ bool write_all(HANDLE file, std::string_view bytes)
     return true;
 }
 
-bool read_all(HANDLE file, std::string& bytes)
+bool read_all(HANDLE file, char* to, std::size_t count)
 {
     constexpr std::size_t piece = 1u << 30;
-    std::size_t done = 0;
-    while (done < bytes.size())
+    while (count != 0)
     {
         DWORD n = 0;
-        const DWORD wanted = static_cast<DWORD>(std::min(bytes.size() - done, piece));
-        if (!::ReadFile(file, bytes.data() + done, wanted, &n, nullptr) || n == 0)
+        const DWORD wanted = static_cast<DWORD>(std::min(count, piece));
+        if (!::ReadFile(file, to, wanted, &n, nullptr) || n == 0)
             return false;
-        done += n;
+        to += n;
+        count -= n;
     }
     return true;
 }
@@ -115,15 +115,35 @@ handle create_beside(const std::wstring& path, std::wstring& name)
 }
 } // namespace
 
-std::optional<std::string> read_whole(const wchar_t* path, std::uint64_t most)
+struct input::state
 {
-    const handle file = open_handle(long_path(path), GENERIC_READ, OPEN_EXISTING);
+    handle file;
+    std::uint64_t size;
+};
+
+void input::closer::operator()(state* opened) const { delete opened; }
+
+std::optional<input> input::open(const wchar_t* path, std::uint64_t most)
+{
+    handle file = open_handle(long_path(path), GENERIC_READ, OPEN_EXISTING);
     LARGE_INTEGER size;
     if (!file || ::GetFileType(file.get()) != FILE_TYPE_DISK || !::GetFileSizeEx(file.get(), &size) ||
         static_cast<std::uint64_t>(size.QuadPart) > most)
         return std::nullopt;
-    std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
-    if (!read_all(file.get(), bytes))
+    return input(new state{std::move(file), static_cast<std::uint64_t>(size.QuadPart)});
+}
+
+std::uint64_t input::size() const { return m_state->size; }
+
+bool input::read(char* to, std::size_t count) { return read_all(m_state->file.get(), to, count); }
+
+std::optional<std::string> read_whole(const wchar_t* path, std::uint64_t most)
+{
+    std::optional<input> file = input::open(path, most);
+    if (!file)
+        return std::nullopt;
+    std::string bytes(static_cast<std::size_t>(file->size()), '\0');
+    if (!file->read(bytes.data(), bytes.size()))
         return std::nullopt;
     return bytes;
 }

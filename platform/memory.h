@@ -12,4 +12,8 @@ inline constexpr std::size_t kBlock = std::size_t{256} << 10;
 char* take(std::size_t bytes);
 /// Ends the use of what take gave for \p bytes.
 void give_back(char* memory, std::size_t bytes) noexcept;
+
+/// Says that all of a block much larger than that will soon be written to, so that the system may give it in
+/// large pages instead of one by one as they are touched. It changes nothing else.
+void expect_use(void* block, std::size_t size);
 } // namespace platform::memory

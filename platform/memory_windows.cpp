@@ -62,4 +62,7 @@ void give_back(char* memory, std::size_t bytes) noexcept
     if (!memory || bytes != kBlock || !spare().keep(memory))
         std::free(memory);
 }
+
+// A program must ask for large pages by the right to lock memory, which users do not have.
+void expect_use(void*, std::size_t) {}
 } // namespace platform::memory

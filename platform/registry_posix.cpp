@@ -114,7 +114,9 @@ private:
     std::optional<std::string> read() const
     {
         std::string bytes(static_cast<std::size_t>(m_info.st_size), '\0');
-        return file::posix::read_all(m_file->get(), bytes) ? std::optional(std::move(bytes)) : std::nullopt;
+        return file::posix::read_all(m_file->get(), bytes.data(), bytes.size())
+                   ? std::optional(std::move(bytes))
+                   : std::nullopt;
     }
 
     bool is_same(const struct stat& now) const

@@ -1,6 +1,7 @@
 #include "tarvo/restools/Resources.h"
 
 #include "platform/file.h"
+#include "tarvo/restools/ScriptBytes.h"
 #include "tarvo/restools/ScriptReader.h"
 #include "tarvo/text/Units.h"
 
@@ -27,23 +28,42 @@ bool CResources::Read(const wchar_t* pszFileName, CString& strLog, const wchar_t
     *this = CResources();
     if (pszFileName == nullptr || *pszFileName == L'\0')
         return false;
-    const auto bytes = platform::file::read_whole(pszFileName, MaxFileSize);
-    if (!bytes)
+    // Nothing is said of a file before it is known whether it can be read to its end.
+    CString log;
+    CStringArray languages;
+    bool isWhole = false, isRead = false;
+    if (auto file = platform::file::input::open(pszFileName, MaxFileSize))
     {
+        CScriptBytes bytes(*file);
+        isRead = ReadBytes(bytes, log, pszLanguage, languages);
+        isWhole = !bytes.HasFailed();
+    }
+    if (!isWhole)
+    {
+        *this = CResources();
         strLog += CString(L"Couldn't open ") + pszFileName + L"\r\n";
         return false;
     }
-    strLog += CString(L"Reading ") + pszFileName + L"\r\n";
-    return ReadMemory(*bytes, strLog, pszLanguage, arrLanguages);
+    strLog += CString(L"Reading ") + pszFileName + L"\r\n" + log;
+    arrLanguages.Append(languages);
+    return isRead;
 }
 
 bool CResources::ReadMemory(std::string_view bytes, CString& strLog, const wchar_t* pszLanguage,
                             CStringArray& arrLanguages)
 {
     *this = CResources();
-    if (bytes.size() > MaxFileSize || !m_text.Open(bytes))
+    if (bytes.size() > MaxFileSize)
         return false;
+    CScriptBytes pieces(bytes);
+    return ReadBytes(pieces, strLog, pszLanguage, arrLanguages);
+}
 
+bool CResources::ReadBytes(CScriptBytes& bytes, CString& strLog, const wchar_t* pszLanguage,
+                           CStringArray& arrLanguages)
+{
+    if (!m_text.Open(bytes))
+        return false;
     const CString filter(pszLanguage);
     const auto isWanted = [&](std::u16string_view word) {
         const CString language = units::to_string(word);

@@ -181,6 +181,9 @@ public:
 private:
     friend class CScriptReader;
 
+    bool ReadBytes(CScriptBytes& bytes, CString& strLog, const wchar_t* pszLanguage,
+                   CStringArray& arrLanguages);
+
     CScriptText m_text;
     CTextArena m_keep; ///< what had to be put together: words with quotes replaced, styles without spaces
     CResBaseclass<CResMenu> m_menus;

@@ -1,50 +1,42 @@
 #include "tarvo/restools/ScriptText.h"
 
+#include "platform/memory.h"
+#include "tarvo/restools/ScriptBytes.h"
+
 #include <algorithm>
 
-namespace
+bool CScriptText::Open(CScriptBytes& bytes)
 {
-constexpr std::size_t pieceSize = 16384;
-} // namespace
-
-bool CScriptText::Open(std::string_view bytes)
-{
-    const CTextMark mark = FindTextMark(bytes);
-    m_bytes = bytes.substr(mark.length);
-    m_encoding = mark.encoding;
+    m_bytes = &bytes;
     m_length = 0;
-    m_marks = CScriptMarks();
+    const TextEncoding encoding = bytes.GetEncoding();
     const bool isWide =
-        m_encoding == TextEncoding::Utf16LittleEndian || m_encoding == TextEncoding::Utf16BigEndian;
-    m_room =
-        (isWide ? m_bytes.size() / 2 : m_bytes.size()) + CScriptMarks::Count; // no encoding gives more units
+        encoding == TextEncoding::Utf16LittleEndian || encoding == TextEncoding::Utf16BigEndian;
+    const auto size = static_cast<std::size_t>(bytes.GetLeft());
+    m_room = (isWide ? size / 2 : size) + CScriptMarks::Count; // no encoding gives more units
     m_units.reset(static_cast<char16_t*>(std::malloc(m_room * sizeof(char16_t))));
-    if (m_units)
-        Grow(0);
-    return m_units != nullptr;
-}
-
-// In the ANSI code page a piece is whole lines: characters are told apart from each line's beginning.
-std::string_view CScriptText::NextPiece() const
-{
-    std::string_view piece = m_bytes.substr(0, pieceSize);
-    if (m_encoding != TextEncoding::Ansi || piece.size() == m_bytes.size())
-        return piece;
-    std::size_t lineBreak = piece.find_last_of("\r\n");
-    if (lineBreak == std::string_view::npos)
-        lineBreak = std::min(m_bytes.find_first_of("\r\n", pieceSize), m_bytes.size() - 1);
-    return m_bytes.substr(0, lineBreak + 1);
+    if (!m_units)
+        return false;
+    platform::memory::expect_use(m_units.get(), m_room * sizeof(char16_t));
+    Grow(0);
+    return true;
 }
 
 bool CScriptText::Grow(std::size_t needed)
 {
-    const std::string_view piece = NextPiece();
+    const std::string_view piece = m_bytes->Peek();
     std::string_view rest = piece;
-    const std::size_t count = DecodeTextPart(m_encoding, rest, m_units.get() + m_length);
+    const std::size_t count = DecodeTextPart(m_bytes->GetEncoding(), rest, m_units.get() + m_length);
+    // Without a unit, what is left is a character that the end of the file has cut off.
+    m_bytes->Take(count == 0 ? piece.size() : piece.size() - rest.size());
     m_length += count;
     std::fill_n(m_units.get() + m_length, CScriptMarks::Count, u'\0');
     m_marks.Grow(m_units.get(), m_length, needed);
-    // Without a unit, what is left is a character that the end of the file has cut off.
-    m_bytes.remove_prefix(count == 0 ? m_bytes.size() : piece.size() - rest.size());
     return count != 0;
+}
+
+void CScriptText::Close()
+{
+    m_marks = CScriptMarks();
+    m_bytes = nullptr;
 }

@@ -1,24 +1,24 @@
 #pragma once
 
 #include "tarvo/restools/ScriptMarks.h"
-#include "tarvo/text/TextDecode.h"
 
 #include <cstddef>
 #include <cstdlib>
 #include <memory>
-#include <string_view>
+
+class CScriptBytes;
 
 /// The text of a script in UTF-16 units and its marks. It grows at its end: a piece is decoded when the one
 /// before has been taken apart, so that what is looked at is still in the cache. Units never move.
 class CScriptText
 {
 public:
-    /// Begins with \p bytes, which must stay until all of them are decoded. False when there is no memory.
-    bool Open(std::string_view bytes);
+    /// Begins the text of \p bytes, which must stay until Close. False when there is no memory.
+    bool Open(CScriptBytes& bytes);
     /// Decodes more, at least a unit; false when there is no more. The marks before \p needed go.
     bool Grow(std::size_t needed);
-    /// Gives the marks back. The text stays.
-    void Close() { m_marks = CScriptMarks(); }
+    /// Ends the reading. The text stays, its marks go.
+    void Close();
 
     /// Behind the last unit there are some zeros.
     const char16_t* Units() const { return m_units.get(); }
@@ -34,12 +34,9 @@ private:
         void operator()(char16_t* p) const { std::free(p); }
     };
 
-    std::string_view NextPiece() const;
-
     std::unique_ptr<char16_t[], Free> m_units;
     std::size_t m_length = 0;
     std::size_t m_room = 0;
     CScriptMarks m_marks;
-    std::string_view m_bytes; ///< what is left to decode
-    TextEncoding m_encoding = TextEncoding::Ansi;
+    CScriptBytes* m_bytes = nullptr;
 };

@@ -3,6 +3,8 @@
 #include "tarvo/restools/ResourcePairs.h"
 #include "tarvo/restools/TextOut.h"
 
+#include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -30,7 +32,11 @@ std::uint32_t HashOf(const TextPair& pair)
 class Section
 {
 public:
-    explicit Section(CResText head) : m_head(head), m_slots(64, none) {}
+    /// At most \p most pairs.
+    Section(CResText head, std::size_t most) : m_head(head), m_slots(std::bit_ceil(most * 2 + 1), none)
+    {
+        m_pairs.reserve(most);
+    }
 
     // The items of a resource and of the one with its name in the other script, paired by ID and rank.
     template <class T>
@@ -80,8 +86,6 @@ private:
             return;
         slot = std::uint64_t{hash} << 32 | m_pairs.size();
         m_pairs.push_back(pair);
-        if (m_pairs.size() * 2 > m_slots.size())
-            Widen();
     }
 
     std::size_t SlotOf(const TextPair& pair, std::uint32_t hash) const
@@ -94,48 +98,42 @@ private:
         return slot;
     }
 
-    void Widen()
-    {
-        std::vector<std::uint64_t> wider(m_slots.size() * 4, none);
-        for (const std::uint64_t entry : m_slots)
-            if (entry != none)
-            {
-                std::size_t slot = (entry >> 32) & (wider.size() - 1);
-                while (wider[slot] != none)
-                    slot = (slot + 1) & (wider.size() - 1);
-                wider[slot] = entry;
-            }
-        m_slots = std::move(wider);
-    }
-
     static constexpr std::uint64_t none = ~std::uint64_t{0};
 
     CResText m_head;
     std::vector<TextPair> m_pairs;
-    std::vector<std::uint64_t>
-        m_slots; ///< open addressing: a pair's hash in the upper half, below its position
+    /// Open addressing: a pair's hash in the upper half, its position in the lower.
+    std::vector<std::uint64_t> m_slots;
 };
 
-Section DialogPairs(const CResources& resources1, const CResources& resources2, CResText type, CResText head)
+template <class T, class IsWanted>
+Section ItemPairs(CResText head, const CResBaseclass<T>& list1, const CResBaseclass<T>& list2,
+                  IsWanted isWanted)
 {
-    Section section(head);
-    for (const CResDialog& dialog : resources1.Dialogs())
-        if (dialog.m_strType == type)
-            section.AddResource(dialog, resources2.Dialogs());
+    std::size_t most = 0;
+    for (const T& one : list1)
+        most += isWanted(one) ? one.m_items.GetCount() : 0;
+    Section section(head, most);
+    for (const T& one : list1)
+        if (isWanted(one))
+            section.AddResource(one, list2);
     return section;
+}
+
+Section DialogPairs(CResText head, CResText type, const CResources& resources1, const CResources& resources2)
+{
+    return ItemPairs(head, resources1.Dialogs(), resources2.Dialogs(),
+                     [type](const CResDialog& dialog) { return dialog.m_strType == type; });
 }
 
 Section MenuPairs(const CResources& resources1, const CResources& resources2)
 {
-    Section section(u"[MENU]");
-    for (const CResMenu& menu : resources1.Menus())
-        section.AddResource(menu, resources2.Menus());
-    return section;
+    return ItemPairs(u"[MENU]", resources1.Menus(), resources2.Menus(), [](const CResMenu&) { return true; });
 }
 
 Section StringPairs(const CResources& resources1, const CResources& resources2)
 {
-    Section section(u"[STRINGTABLE]");
+    Section section(u"[STRINGTABLE]", resources1.Strings().GetCount());
     section.AddStrings(resources1.Strings(), resources2.Strings());
     return section;
 }
@@ -143,8 +141,8 @@ Section StringPairs(const CResources& resources1, const CResources& resources2)
 
 void WritePairs(const CResources& resources1, const CResources& resources2, CString& strText, bool bQuoted)
 {
-    const Section sections[] = {DialogPairs(resources1, resources2, u"DIALOG", u"[DIALOG]"),
-                                DialogPairs(resources1, resources2, u"DIALOGEX", u"[DIALOGEX]"),
+    const Section sections[] = {DialogPairs(u"[DIALOG]", u"DIALOG", resources1, resources2),
+                                DialogPairs(u"[DIALOGEX]", u"DIALOGEX", resources1, resources2),
                                 MenuPairs(resources1, resources2), StringPairs(resources1, resources2)};
     AppendText(strText, [&](auto& out) {
         for (const Section& section : sections)

@@ -50,6 +50,48 @@ TEST(File, EmptyFileGivesEmptyBytes)
     EXPECT_EQ(file::read_whole(path.c_str(), 0), "");
 }
 
+TEST(File, InputGivesTheFilePieceByPiece)
+{
+    const TempFolder folder;
+    const std::wstring path = folder / L"a.bin";
+    ASSERT_EQ(file::write_whole(path.c_str(), bytes), Written::ok);
+    auto opened = file::input::open(path.c_str(), bytes.size());
+    ASSERT_TRUE(opened);
+    EXPECT_EQ(opened->size(), bytes.size());
+    char read[11];
+    EXPECT_TRUE(opened->read(read, 4));
+    EXPECT_TRUE(opened->read(read + 4, 0));
+    file::input moved = *std::move(opened);
+    EXPECT_TRUE(moved.read(read + 4, 7));
+    EXPECT_EQ(std::string(read, 11), bytes);
+    EXPECT_FALSE(moved.read(read, 1));
+}
+
+TEST(File, InputSaysWhenTheFileHasBecomeShorter)
+{
+    const TempFolder folder;
+    const std::wstring path = folder / L"a";
+    ASSERT_EQ(file::write_whole(path.c_str(), "0123456789"), Written::ok);
+    auto opened = file::input::open(path.c_str(), 10);
+    ASSERT_TRUE(opened);
+    ASSERT_EQ(file::write_whole(path.c_str(), "0123"), Written::ok);
+    char read[10];
+    EXPECT_FALSE(opened->read(read, 10));
+}
+
+TEST(File, InputOpensWhatIsReadWholeAndNothingElse)
+{
+    const TempFolder folder;
+    const std::wstring path = folder / L"a";
+    ASSERT_EQ(file::write_whole(path.c_str(), std::string(1000, 'a')), Written::ok);
+    EXPECT_TRUE(file::input::open(path.c_str(), 1000));
+    EXPECT_FALSE(file::input::open(path.c_str(), 999));
+    EXPECT_FALSE(file::input::open((folder / L"missing").c_str(), 1000));
+    EXPECT_FALSE(file::input::open(folder.path().c_str(), 1000));
+    EXPECT_FALSE(file::input::open(nullptr, 1000));
+    EXPECT_FALSE(file::input::open(L"", 1000));
+}
+
 TEST(File, LimitAllowsItsOwnSizeAndNoByteMore)
 {
     const TempFolder folder;

@@ -1,5 +1,6 @@
 #include "script.h"
 
+#include "platform/codepage.h"
 #include "platform/file.h"
 #include "tarvo/text/AnsiPage.h"
 #include "tests/support/TempFolder.h"
@@ -90,6 +91,42 @@ TEST(Resources, AreTheSameInEveryEncoding)
     SetAnsiCodePage(949);
     EXPECT_EQ(DumpOf("A BITMAP \"\xB0\xA1.bmp\""), wanted);
     SetAnsiCodePage(0);
+}
+
+// It is read, decoded and taken apart in pieces, which must not show wherever they end.
+TEST(Resources, AreTheSameInLongScriptsWhateverStandsWhereAPieceEnds)
+{
+    std::string text, wanted;
+    for (int i = 0; i < 4000; ++i)
+    {
+        const std::string id = "ID_" + std::to_string(i), value(static_cast<std::size_t>(i) % 61, 'x');
+        text += "  " + id + " \"\xEA\xB0\x80" + value + "\"\r\n";
+        wanted += "string " + id + " \"\xEA\xB0\x80" + value + "\"\n";
+    }
+    const std::string longText(200000, 'y');
+    wanted += "string ID_LONG \"" + longText + "\"\nbitmap B \"\xEA\xB0\x80.bmp\"\n";
+    const TempFolder folder;
+    const std::wstring path = folder / L"a.rc";
+    for (const std::size_t before : {0u, 1u, 2u, 3u, 4u, 5u})
+    {
+        const std::string script = std::string(before, '\n') + "STRINGTABLE\r\nBEGIN\r\n" + text +
+                                   "ID_LONG \"" + longText + "\"\r\nEND\r\nB BITMAP \"\xEA\xB0\x80.bmp\"";
+        std::string little = "\xFF\xFE"s;
+        for (const char16_t unit : Utf16(script))
+            little += {static_cast<char>(unit & 0xFF), static_cast<char>(unit >> 8)};
+        const auto wide = platform::codepage::decode(platform::codepage::utf8, script);
+        const std::string ansi = *platform::codepage::encode(949, *wide);
+        SetAnsiCodePage(949);
+        for (const std::string& bytes : {Marked(script), little, ansi})
+        {
+            EXPECT_EQ(DumpOf(bytes), wanted);
+            ASSERT_EQ(platform::file::write_whole(path.c_str(), bytes), platform::file::Written::ok);
+            FromFile file;
+            EXPECT_TRUE(file.Read(path.c_str()));
+            EXPECT_EQ(Dump(file.resources), wanted);
+        }
+        SetAnsiCodePage(0);
+    }
 }
 
 // In some pages the second byte of a character may be a backslash or a bar.
