@@ -72,3 +72,14 @@ TEST(Memory, ManyThreadsMayTakeAndGiveBack)
     work('t');
     other.join();
 }
+
+TEST(Memory, WhatIsExpectedToBeUsedStaysAsItIs)
+{
+    for (const std::size_t size : {std::size_t{1}, kBlock, 40 * kBlock})
+    {
+        const Piece piece = take_filled(size, 'a');
+        platform::memory::expect_use(piece.memory, size);
+        EXPECT_TRUE(holds(piece, 'a'));
+        platform::memory::give_back(piece.memory, size);
+    }
+}
