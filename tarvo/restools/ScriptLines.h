@@ -13,8 +13,8 @@ struct CScriptLine
     std::size_t number = 0; ///< from 1, as an editor counts
     std::u16string_view first;
     ScriptKeyword keyword = ScriptKeyword::None; ///< what the first word is
-    CScriptWords
-        words; ///< stands behind the first word, at the standard separators; good until the next Peek
+    /// They stand behind the first word, at the standard separators, and are good until the next Peek.
+    CScriptWords words;
 };
 
 inline bool IsScriptBreak(char16_t c) { return c == u'\n' || c == u'\r'; }
