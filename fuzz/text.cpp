@@ -10,8 +10,8 @@
 #include <random>
 
 // Any bytes read as lines, in pieces of any size, as a plain reader reads them that goes byte by byte by the
-// rules; the whole-file decoder gives the same lines. What the reader of message files gives is the text in
-// lines of at most its length, and its position leads through the file.
+// rules. What the reader of message files gives is the text in lines of at most its length, and its position
+// leads through the file.
 namespace
 {
 constexpr int pages[] = {949, 932, 936, 950, 1251, 65001};
@@ -76,15 +76,6 @@ void CheckLineReader(std::string_view bytes, int page, unsigned seed)
         Require(line == expected, "the same line");
         Require(reader.IsEndOfFile() == plain.IsEndOfFile(), "the end is seen at the same line");
     }
-
-    const auto text = DecodeText(bytes);
-    CTextLines walker(text->View());
-    const auto lines = PlainLines(bytes, page);
-    auto next = lines.begin();
-    for (std::u16string_view whole; walker.Next(whole); ++next)
-        Require(next != lines.end() && std::equal(whole.begin(), whole.end(), next->begin(), next->end()),
-                "the whole file decoded gives the same line");
-    Require(next == lines.end(), "and no fewer");
 }
 
 void CheckStdioReader(std::string_view bytes, int page, bool binary)

@@ -247,11 +247,6 @@ std::size_t DecodeAnsi(std::string_view bytes, char16_t* out)
     });
 }
 
-bool IsWide(TextEncoding encoding)
-{
-    return encoding == TextEncoding::Utf16LittleEndian || encoding == TextEncoding::Utf16BigEndian;
-}
-
 } // namespace
 
 CTextMark FindTextMark(std::string_view bytes)
@@ -281,41 +276,4 @@ std::size_t DecodeTextPart(TextEncoding encoding, std::string_view& bytes, char1
         break;
     }
     return DecodeAnsi(std::exchange(bytes, {}), out);
-}
-
-std::optional<CTextUnits> DecodeText(std::string_view bytes)
-{
-    const CTextMark mark = FindTextMark(bytes);
-    bytes.remove_prefix(mark.length);
-    const std::size_t room = (IsWide(mark.encoding) ? bytes.size() / 2 : bytes.size()) + 1;
-
-    CTextUnits text;
-    text.m_units.reset(static_cast<char16_t*>(std::malloc(room * sizeof(char16_t))));
-    if (!text.m_units)
-        return std::nullopt;
-    text.m_length = DecodeTextPart(mark.encoding, bytes, text.m_units.get());
-
-    // Give back what was not needed: a text in two or three bytes a character leaves half free.
-    if (void* shrunk = std::realloc(text.m_units.get(), (text.m_length + 1) * sizeof(char16_t)))
-    {
-        static_cast<void>(text.m_units.release());
-        text.m_units.reset(static_cast<char16_t*>(shrunk));
-    }
-    return text;
-}
-
-bool CTextLines::Next(std::u16string_view& line)
-{
-    const char16_t* const end = m_text.data() + m_text.size();
-    const char16_t* const before = m_text.data();
-    const char16_t* at = before;
-    if (at != end && *at == u'\r')
-        ++at;
-    if (at != end && *at == u'\n')
-        ++at;
-    m_lineNumber += at != before;
-    const char16_t* const stop = units::find_break(at, end);
-    line = {at, static_cast<std::size_t>(stop - at)};
-    m_text = {stop, static_cast<std::size_t>(end - stop)};
-    return at != end;
 }

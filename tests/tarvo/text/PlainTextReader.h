@@ -6,9 +6,8 @@
 #include <string_view>
 #include <vector>
 
-/// Text files read the slow way, one byte after the other, as the rules are told: what the readers and the
-/// whole-file decoder are held against. The ANSI page is named: on Windows the library's own is not seen
-/// here.
+/// Text files read the slow way, one byte after the other, as the rules are told: what the reader is held
+/// against. The ANSI page is named: on Windows the library's own is not seen here.
 class PlainTextReader
 {
 public:

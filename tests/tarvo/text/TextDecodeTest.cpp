@@ -1,7 +1,6 @@
 #include "tarvo/text/TextDecode.h"
 
 #include "platform/codepage.h"
-#include "tarvo/text/Units.h"
 #include "tests/tarvo/text/AnsiPage.h"
 
 #include <gtest/gtest.h>
@@ -14,31 +13,14 @@ using namespace std::string_literals;
 
 namespace
 {
-std::u16string Decoded(const std::string& bytes)
+std::u16string Decoded(std::string_view bytes)
 {
-    const auto text = DecodeText(bytes);
-    return text ? std::u16string(text->View()) : u"no memory";
+    const CTextMark mark = FindTextMark(bytes);
+    bytes.remove_prefix(mark.length);
+    std::u16string units(bytes.size(), u'?');
+    units.resize(DecodeTextPart(mark.encoding, bytes, units.data()));
+    return units;
 }
-
-std::vector<std::u16string> Lines(std::u16string_view text)
-{
-    std::vector<std::u16string> lines;
-    CTextLines walker(text);
-    for (std::u16string_view line; walker.Next(line);)
-        lines.emplace_back(line);
-    return lines;
-}
-
-std::vector<std::size_t> Numbers(std::u16string_view text)
-{
-    std::vector<std::size_t> numbers;
-    CTextLines walker(text);
-    for (std::u16string_view line; walker.Next(line);)
-        numbers.push_back(walker.LineNumber());
-    return numbers;
-}
-
-using List = std::vector<std::u16string>;
 } // namespace
 
 TEST(TextMark, IsTwoOrThreeBytesAndTellsTheEncoding)
@@ -82,7 +64,7 @@ TEST(DecodeText, DropsTheMarkAndKeepsTheBreaks)
     EXPECT_EQ(Decoded(""), u"");
 }
 
-TEST(DecodeText, DropsTheOddLastByteOfWideText)
+TEST(DecodeText, LeavesTheOddLastByteOfWideText)
 {
     EXPECT_EQ(Decoded("\xFF\xFE"
                       "a\0b"s),
@@ -190,55 +172,6 @@ TEST(DecodeLenientUtf8, TakesTheCountOfLeadingOneBitsAndChecksNothingElse)
         out.resize(DecodeLenientUtf8(row.bytes, out.data()));
         EXPECT_EQ(out, row.text) << testing::PrintToString(row.bytes);
     }
-}
-
-TEST(TextLines, EndAtCarriageReturnLineFeedOrBoth)
-{
-    EXPECT_EQ(Lines(u"a\r\n\r\nb"), (List{u"a", u"", u"b"}));
-    EXPECT_EQ(Lines(u"a\n"), (List{u"a"}));
-    EXPECT_EQ(Lines(u"a\n\rb"), (List{u"a", u"", u"b"}));
-    EXPECT_EQ(Lines(u"a\rb"), (List{u"a", u"b"}));
-    EXPECT_EQ(Lines(u"a\n\n"), (List{u"a", u""}));
-    EXPECT_EQ(Lines(u"a\r\r\nb"), (List{u"a", u"", u"b"}));
-    EXPECT_EQ(Lines(u""), List{});
-}
-
-// Passing over what the line before left does not ask whether there was one.
-TEST(TextLines, PassOverABreakAtTheVeryBeginning)
-{
-    EXPECT_EQ(Lines(u"\r\na"), (List{u"a"}));
-    EXPECT_EQ(Lines(u"\na"), (List{u"a"}));
-    EXPECT_EQ(Lines(u"\n"), List{});
-    EXPECT_EQ(Lines(u"\n\na"), (List{u"", u"a"}));
-}
-
-TEST(TextLines, AreAsLongAsTheyAre)
-{
-    const std::u16string line(5000, u'x');
-    EXPECT_EQ(Lines(line + u"\n" + line), (List{line, line}));
-    for (std::size_t length = 1; length < 40; ++length) // every place of a break within the steps looked at
-        EXPECT_EQ(Lines(std::u16string(length, u'\t') + u"\r\n" + line)[0], std::u16string(length, u'\t'));
-}
-
-TEST(TextLines, AreNumberedAsAnEditorDoes)
-{
-    EXPECT_EQ(Numbers(u"a\r\n\r\nb\nc"), (std::vector<std::size_t>{1, 2, 3, 4}));
-    EXPECT_EQ(Numbers(u"\na"), (std::vector<std::size_t>{2}));
-    EXPECT_EQ(Numbers(u"a\n\rb"), (std::vector<std::size_t>{1, 2, 3}));
-}
-
-TEST(TextLines, ReadNothingPastTheEnd)
-{
-    CTextLines lines(u"a");
-    std::u16string_view line;
-    EXPECT_TRUE(lines.Next(line));
-    for (int i = 0; i < 3; ++i)
-    {
-        EXPECT_FALSE(lines.Next(line));
-        EXPECT_EQ(line, u"");
-    }
-    CTextLines none;
-    EXPECT_FALSE(none.Next(line));
 }
 
 // Well-formed text goes another way; where the two meet nothing may show.

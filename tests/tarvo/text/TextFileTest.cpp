@@ -418,11 +418,5 @@ TEST_F(TextFile, RandomTextsReadAsTheRulesAreTold)
         for (std::size_t i = 0; i < length; ++i)
             bytes += random() % 3 ? letters[random() % letters.size()] : 'b';
         ASSERT_EQ(LinesOf(bytes), PlainLines(bytes, 949)) << testing::PrintToString(bytes);
-        const auto text = DecodeText(bytes);
-        CTextLines walker(text->View());
-        Lines walked;
-        for (std::u16string_view line; walker.Next(line);)
-            walked.emplace_back(line.begin(), line.end());
-        ASSERT_EQ(walked, PlainLines(bytes, 949)) << "the whole-file decoder";
     }
 }
