@@ -115,7 +115,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     Words fields = ByTheRules(line, u",");
     Require(ByTheWalker(line, WordSeparators::Comma) == fields, "the fields are too");
     for (const Places& rule : places)
-        if (!standard.empty() && standard[0] == rule.keyword && line.find_first_of(u"\r\n") == line.npos)
+        if (!standard.empty() && standard[0] == rule.keyword &&
+            line.find_first_of(u"\r\n") == std::u16string_view::npos)
             CheckControl(line, standard, fields, rule);
     for (std::size_t i = 0; i <= standard.size() && i < 8; ++i)
         Require(ScriptWord(line, i, WordSeparators::Standard) ==

@@ -176,7 +176,7 @@ TYPED_TEST(MessageReader, ReadsTheFontFile)
     EXPECT_EQ(this->reader.font("; font\r\n[F]\r\nFONT=\xB1\xBC\xB8\xB2\r\nSIZE=9\r\n", 949),
               L"\xAD74\xB9BC/9");
     EXPECT_EQ(this->reader.font("FONT = Arial\nSIZE = 7\n", 949), L"\xAD74\xB9BC/9") << "blanks: other keys";
-    EXPECT_EQ(this->reader.font(std::string("SIZE\0=7\nFONT\0=Arial\n", 21), 949), L"\xAD74\xB9BC/9")
+    EXPECT_EQ(this->reader.font(std::string("SIZE\0=7\nFONT\0=Arial\n", 20), 949), L"\xAD74\xB9BC/9")
         << "a NUL: other keys";
     EXPECT_EQ(this->reader.font("SIZE=-2147483649\n", 949), L"\xAD74\xB9BC/-2147483648");
 }
