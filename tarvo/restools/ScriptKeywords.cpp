@@ -22,12 +22,14 @@ constexpr std::size_t longest = 13;
 // A place of its own for each keyword, found by trying factors.
 constexpr std::size_t PlaceOf(Word word) { return (word[0] + word[1] * 28u + word.size() * 2) % 64; }
 
-constexpr std::array<ScriptKeyword, 64> places = [] {
+constexpr std::array<ScriptKeyword, 64> MakePlaces()
+{
     std::array<ScriptKeyword, 64> table = {};
     for (std::size_t i = 1; i < words.size(); ++i)
         table[PlaceOf(words[i])] = static_cast<ScriptKeyword>(i);
     return table;
-}();
+}
+constexpr std::array<ScriptKeyword, 64> places = MakePlaces();
 
 constexpr bool AllHaveTheirPlace()
 {
