@@ -14,16 +14,12 @@ namespace
 {
 constexpr USHORT kMostSpare = 32; ///< blocks, 8 MB
 
-/// Any thread may take and give.
+/// Any thread may take and give. There is no destructor: what other static objects give back later than the
+/// end of the program's own is kept, and goes with the process.
 class SpareBlocks
 {
 public:
     SpareBlocks() { InitializeSListHead(&m_list); }
-    ~SpareBlocks()
-    {
-        while (void* const block = take())
-            std::free(block);
-    }
     SpareBlocks(const SpareBlocks&) = delete;
     SpareBlocks& operator=(const SpareBlocks&) = delete;
 
@@ -40,9 +36,21 @@ private:
     SLIST_HEADER m_list;
 };
 
+/// Frees them when the module goes.
+struct AtTheEnd
+{
+    SpareBlocks& blocks;
+    ~AtTheEnd()
+    {
+        while (void* const block = blocks.take())
+            std::free(block);
+    }
+};
+
 SpareBlocks& spare()
 {
     static SpareBlocks blocks;
+    static const AtTheEnd end{blocks};
     return blocks;
 }
 } // namespace
