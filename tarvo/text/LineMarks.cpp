@@ -1,5 +1,6 @@
 #include "tarvo/text/LineMarks.h"
 
+#include "platform/codepage_block.h"
 #include "tarvo/text/UnitBlock.h"
 
 #include <algorithm>
@@ -13,14 +14,6 @@ constexpr std::size_t kBlock = CUnitBlock::kCount;
 
 /// A bit for each unit of a block that Mark has to look at.
 std::uint64_t MarksOf(const char16_t* units) { return CUnitBlock(units).Below16Or(u'=', u'"', u'/'); }
-
-/// Without the instruction for it, which not every x86-64 has, the library's own would be a call.
-std::size_t CountOf(std::uint64_t bits)
-{
-    bits -= bits >> 1 & 0x5555555555555555;
-    bits = (bits & 0x3333333333333333) + (bits >> 2 & 0x3333333333333333);
-    return ((bits + (bits >> 4)) & 0x0F0F0F0F0F0F0F0F) * 0x0101010101010101 >> 56;
-}
 
 std::uint64_t MarksOfRest(const char16_t* units, std::size_t count)
 {
@@ -40,7 +33,7 @@ bool CLineMarker::LookAhead()
         std::uint64_t marks =
             size - at < kBlock ? MarksOfRest(m_pNoted + at, size - at) : MarksOf(m_pNoted + at);
         std::uint16_t* place = m_arrPlace + m_nCount;
-        m_nCount += CountOf(marks);
+        m_nCount += platform::codepage::count_bits(marks);
         // Eight at a time, whether there are as many or not: most blocks have no more.
         for (; marks != 0; place += kAtATime)
 #pragma GCC unroll 8
