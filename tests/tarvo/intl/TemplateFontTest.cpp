@@ -28,16 +28,7 @@ std::wstring texts_of(const Bytes& bytes)
     return result;
 }
 
-Bytes setup(bool extended, bool font)
-{
-    return TemplateBytes(extended, font)
-        .caption(L"Setup")
-        .control(1001, L"Name")
-        .control(1, L"OK!", L"Button", 3)
-        .icon(1003)
-        .control(1004, L"last")
-        .bytes();
-}
+Bytes setup(bool extended, bool font) { return SetupTemplate(extended, font).control(1004, L"last").bytes(); }
 
 Bytes with_font(const Bytes& bytes, const wchar_t* face, int points)
 {

@@ -19,14 +19,7 @@ using Bytes = std::vector<unsigned char>;
 
 Bytes setup(bool extended, bool font)
 {
-    return TemplateBytes(extended, font)
-        .caption(L"Setup")
-        .control(1001, L"Name")
-        .control(1, L"OK!", L"Button", 3)
-        .icon(1003)
-        .place(-1, -2, 300, 20000)
-        .control(1004, L"last")
-        .bytes();
+    return SetupTemplate(extended, font).place(-1, -2, 300, 20000).control(1004, L"last").bytes();
 }
 } // namespace
 

@@ -92,3 +92,13 @@ private:
     bool m_extended;
     bool m_font;
 };
+
+/// A dialog "Setup" with a label, a button of a class by name with creation data, and an icon.
+inline TemplateBytes SetupTemplate(bool extended, bool font)
+{
+    return TemplateBytes(extended, font)
+        .caption(L"Setup")
+        .control(1001, L"Name")
+        .control(1, L"OK!", L"Button", 3)
+        .icon(1003);
+}

@@ -93,22 +93,26 @@ public:
     {
         std::wstring all;
         const HTREEITEM selected = tree.GetSelectedItem();
-        std::vector<HTREEITEM> left{tree.GetRootItem()};
-        while (!left.empty())
-        {
-            const HTREEITEM item = left.back();
-            left.pop_back();
-            if (!item)
-                continue;
+        ForEachNode([&](HTREEITEM item) {
             all += std::wstring(tree.GetItemText(item)) + (item == selected ? L"*" : L"");
             all += (tree.GetItemState(item, TVIS_STATEIMAGEMASK) >> 12) == 2 ? L"x " : L" ";
-            left.push_back(tree.GetNextItem(item, TVGN_NEXT));
-            if (tree.GetItemState(item, TVIS_EXPANDED) & TVIS_EXPANDED)
-                left.push_back(tree.GetChildItem(item));
-        }
+            return (tree.GetItemState(item, TVIS_EXPANDED) & TVIS_EXPANDED) != 0;
+        });
         return all;
     }
     HTREEITEM Node(const wchar_t* text) const
+    {
+        HTREEITEM found = nullptr;
+        ForEachNode([&](HTREEITEM item) {
+            if (!found && tree.GetItemText(item) == text)
+                found = item;
+            return true;
+        });
+        return found;
+    }
+    /// Visits each node before those below it, which it wants to see or not.
+    template <class WantsBelow>
+    void ForEachNode(WantsBelow visit) const
     {
         std::vector<HTREEITEM> left{tree.GetRootItem()};
         while (!left.empty())
@@ -117,12 +121,10 @@ public:
             left.pop_back();
             if (!item)
                 continue;
-            if (tree.GetItemText(item) == text)
-                return item;
             left.push_back(tree.GetNextItem(item, TVGN_NEXT));
-            left.push_back(tree.GetChildItem(item));
+            if (visit(item))
+                left.push_back(tree.GetChildItem(item));
         }
-        return nullptr;
     }
     CListCtrl list;
     CTreeCtrl tree;

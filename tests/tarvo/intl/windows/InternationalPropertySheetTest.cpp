@@ -1,7 +1,6 @@
-#include "tarvo/intl/InternationalPropertySheet.h"
-
 #include "tarvo/intl/LanguageSwitch.h"
 #include "tests/tarvo/intl/windows/IntlFixture.h"
+#include "tests/tarvo/intl/windows/TestSheet.h"
 
 #include <afxcmn.h>
 
@@ -39,23 +38,11 @@ public:
     bool takesCommands = false;
 };
 
-/// A sheet whose behaviour each test gives.
-class CTestSheet : public CInternationalPropertySheet
+/// A sheet that tells what stands in it.
+class CReadSheet : public CTestSheet
 {
 public:
-    using CInternationalPropertySheet::CInternationalPropertySheet;
-    BOOL OnInitDialog() override
-    {
-        const BOOL focus = CInternationalPropertySheet::OnInitDialog();
-        if (onInit)
-            onInit();
-        return focus;
-    }
-    void SetText() override
-    {
-        if (const auto once = std::exchange(onText, nullptr))
-            once();
-    }
+    using CTestSheet::CTestSheet;
     std::wstring Tabs() const
     {
         std::wstring all;
@@ -79,7 +66,6 @@ public:
         ScreenToClient(place);
         return place;
     }
-    std::function<void()> onInit, onText;
 };
 
 class InternationalSheets : public IntlWindows
@@ -94,7 +80,7 @@ protected:
 class OpenSheet : public InternationalSheets
 {
 protected:
-    void Open(CTestSheet& sheet)
+    void Open(CReadSheet& sheet)
     {
         sheet.AddPage(&one);
         sheet.AddPage(&two);
@@ -109,7 +95,7 @@ TEST_F(OpenSheet, PagesAreMadeInTheDialogFontAndTranslatedInTheTextFont)
     Set(L"DlgFontName_Std", L"Arial");
     Set(L"DlgFontSize_Std", L"12");
     SetTextFont("Lucida Console");
-    CTestSheet sheet(L"Sheet");
+    CReadSheet sheet(L"Sheet");
     Open(sheet);
     EXPECT_EQ(FontOf(one.m_hWnd), L"Arial -16");
     EXPECT_EQ(FontOf(one.GetDlgItem(IDC_LABEL)->m_hWnd), L"Lucida Console -12");
@@ -131,7 +117,7 @@ TEST_F(InternationalSheets, PagesOfOtherClassesGetTheDialogFontToo)
     Set(L"DlgFontName_Std", L"Arial");
     Set(L"DlgFontSize_Std", L"12");
     CPropertyPage plain(IDD_PAGE_ONE);
-    CTestSheet sheet(L"Sheet");
+    CReadSheet sheet(L"Sheet");
     sheet.AddPage(&plain);
     ASSERT_TRUE(sheet.Create(&host));
     EXPECT_EQ(FontOf(plain.m_hWnd), L"Arial -16");
@@ -142,7 +128,7 @@ TEST_F(InternationalSheets, PagesOfOtherClassesGetTheDialogFontToo)
 TEST_F(OpenSheet, CaptionIsTheCataloguesTextForTheFirstPagesSheet)
 {
     catalogue.texts = {{L"IDS_IDD_PAGE_ONE_SHEET", L"Einstellungen"}};
-    CTestSheet sheet(IDS_SHEET_CAPTION);
+    CReadSheet sheet(IDS_SHEET_CAPTION);
     Open(sheet);
     EXPECT_EQ(TextOf(sheet.m_hWnd), L"Einstellungen");
     catalogue.texts = {};
@@ -161,7 +147,7 @@ TEST_F(OpenSheet, CaptionIsTheCataloguesTextForTheFirstPagesSheet)
 TEST_F(OpenSheet, SwitchingTranslatesPagesInFrontAndBehindAndTheirTabs)
 {
     SpeakGerman();
-    CTestSheet sheet(L"Sheet");
+    CReadSheet sheet(L"Sheet");
     Open(sheet);
     sheet.SetActivePage(1);
     one.SetDlgItemText(IDC_NAME_EDIT, L"typed");
@@ -180,7 +166,7 @@ TEST_F(OpenSheet, SwitchingTranslatesPagesInFrontAndBehindAndTheirTabs)
 TEST_F(OpenSheet, TabThatTheProgramHasChangedKeepsItsText)
 {
     SpeakGerman();
-    CTestSheet sheet(L"Sheet");
+    CReadSheet sheet(L"Sheet");
     Open(sheet);
     wchar_t text[] = L"3 errors";
     TCITEMW item = {};
@@ -197,7 +183,7 @@ TEST_F(InternationalSheets, ButtonsAreTranslatedByTheirNamesAndFollow)
 {
     const std::wstring ini = L"[DIALOG]\nIDOK=In Ordnung\nID_APPLY_NOW=&Anwenden\n";
     table->GetXIni().OpenMemory(ini.c_str(), static_cast<int>(ini.size()));
-    CTestSheet sheet(L"Sheet", &host);
+    CReadSheet sheet(L"Sheet", &host);
     sheet.AddPage(&one);
     std::wstring first, second, third;
     const auto buttons = [&] {
@@ -224,7 +210,7 @@ TEST_F(InternationalSheets, ButtonsAreTranslatedByTheirNamesAndFollow)
 TEST_F(InternationalSheets, WizardsTitleIsThatOfThePageInFrontInTheLanguageInForce)
 {
     SpeakGerman();
-    CTestSheet sheet(L"Sheet", &host);
+    CReadSheet sheet(L"Sheet", &host);
     sheet.AddPage(&one);
     sheet.AddPage(&two);
     sheet.SetWizardMode();
@@ -247,7 +233,7 @@ TEST_F(InternationalSheets, WizardsTitleIsThatOfThePageInFrontInTheLanguageInFor
 
 TEST_F(OpenSheet, PagesTabsAndButtonsFollowTheSheetsSize)
 {
-    CTestSheet sheet(L"Sheet");
+    CReadSheet sheet(L"Sheet");
     sheet.SetResizable(TRUE);
     Open(sheet);
     EXPECT_TRUE(sheet.GetStyle() & WS_THICKFRAME);
@@ -275,7 +261,7 @@ TEST_F(OpenSheet, PagesTabsAndButtonsFollowTheSheetsSize)
 
 TEST_F(InternationalSheets, SheetsAreOfAFixedSizeUnlessTheyAreToldOtherwise)
 {
-    CTestSheet sheet(L"Sheet");
+    CReadSheet sheet(L"Sheet");
     sheet.AddPage(&one);
     ASSERT_TRUE(sheet.Create(&host));
     EXPECT_FALSE(sheet.GetStyle() & WS_THICKFRAME);
@@ -284,7 +270,7 @@ TEST_F(InternationalSheets, SheetsAreOfAFixedSizeUnlessTheyAreToldOtherwise)
 
 TEST_F(OpenSheet, ApplyHelpAndWizardButtonsAreThePagesFirst)
 {
-    CTestSheet sheet(L"Sheet");
+    CReadSheet sheet(L"Sheet");
     Open(sheet);
     one.takesCommands = true;
     one.log.clear();
@@ -300,11 +286,11 @@ TEST_F(OpenSheet, ApplyHelpAndWizardButtonsAreThePagesFirst)
 
 TEST_F(InternationalSheets, WithoutPagesOrWithAPageThatCannotBeLoadedAreNotShown)
 {
-    CTestSheet empty(L"Empty", &host);
+    CReadSheet empty(L"Empty", &host);
     EXPECT_EQ(empty.DoModal(), -1);
     EXPECT_FALSE(empty.Create(&host));
     CTestPage missing(999);
-    CTestSheet sheet(L"Sheet", &host);
+    CReadSheet sheet(L"Sheet", &host);
     sheet.AddPage(&missing);
     EXPECT_EQ(sheet.DoModal(), -1);
     EXPECT_FALSE(sheet.Create(&host));
@@ -314,7 +300,7 @@ TEST_F(InternationalSheets, WithoutPagesOrWithAPageThatCannotBeLoadedAreNotShown
 
 TEST_F(InternationalSheets, ClosedFromTheirOwnInitialisationEndAtOnce)
 {
-    CTestSheet sheet(L"Sheet", &host);
+    CReadSheet sheet(L"Sheet", &host);
     sheet.AddPage(&one);
     sheet.onInit = [&] { sheet.EndDialog(78); };
     EXPECT_EQ(sheet.DoModal(), 78);
@@ -324,7 +310,7 @@ TEST_F(InternationalSheets, ClosedFromTheirOwnInitialisationEndAtOnce)
 
 TEST_F(InternationalSheets, SameSheetAndPagesCanBeShownAgain)
 {
-    CTestSheet sheet(IDS_SHEET_CAPTION, &host);
+    CReadSheet sheet(IDS_SHEET_CAPTION, &host);
     sheet.AddPage(&one);
     for (const wchar_t* caption : {L"Deutsch", L"Fran\x00E7\x0061is"})
     {
@@ -362,7 +348,7 @@ TEST_F(OpenSheet, AltF12OpensTheChangerOnThePage)
         void Open(const CRcStringExtract& preset) override { presets.push_back(preset); }
         std::vector<CRcStringExtract> presets;
     } opener;
-    CTestSheet sheet(L"Sheet");
+    CReadSheet sheet(L"Sheet");
     Open(sheet);
     one.SetWorkingFolder(L"C:\\Work");
     one.GetDlgItem(IDC_NAME_EDIT)->PostMessage(WM_SYSKEYDOWN, VK_F12, 0x20580001);

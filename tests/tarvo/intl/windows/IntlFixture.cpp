@@ -4,6 +4,7 @@
 #include "platform/file.h"
 #include "tarvo/intl/GlobalFontMgr.h"
 #include "tarvo/intl/LanguageSwitch.h"
+#include "tarvo/intl/WindowText_windows.h"
 #include "tarvo/lang/INIResourceManager.h"
 #include "tarvo/msg/MSGFunction.h"
 #include "tarvo/settings/Registry.h"
@@ -143,16 +144,8 @@ std::wstring LineOf(HWND window)
 
 std::wstring DumpOf(HWND window, const std::function<bool(HWND)>& wanted)
 {
-    std::vector<HWND> all;
-    ::EnumChildWindows(
-        window,
-        [](HWND child, LPARAM list) -> BOOL {
-            reinterpret_cast<std::vector<HWND>*>(list)->push_back(child);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&all));
     std::wstring dump;
-    for (const HWND child : all)
+    for (const HWND child : DescendantsOf(window))
         dump += !wanted || wanted(child) ? LineOf(child) : L"";
     return dump;
 }

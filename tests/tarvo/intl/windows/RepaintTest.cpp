@@ -1,5 +1,6 @@
 #include "tarvo/intl/InternationalDlg.h"
 #include "tarvo/intl/LanguageSwitch.h"
+#include "tarvo/intl/WindowText_windows.h"
 #include "tests/tarvo/intl/windows/IntlFixture.h"
 
 #include <map>
@@ -33,14 +34,8 @@ LRESULT CALLBACK Watch(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 
 std::vector<HWND> WithAllBelow(HWND window)
 {
-    std::vector<HWND> all{window};
-    ::EnumChildWindows(
-        window,
-        [](HWND child, LPARAM list) -> BOOL {
-            reinterpret_cast<std::vector<HWND>*>(list)->push_back(child);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&all));
+    std::vector<HWND> all = DescendantsOf(window);
+    all.insert(all.begin(), window);
     return all;
 }
 

@@ -1,6 +1,6 @@
-#include "tarvo/intl/InternationalPropertySheet.h"
 #include "tarvo/intl/TemplateLayout.h"
 #include "tests/tarvo/intl/windows/IntlFixture.h"
+#include "tests/tarvo/intl/windows/TestSheet.h"
 
 #include <afxcmn.h>
 
@@ -9,25 +9,6 @@
 
 namespace
 {
-class CSizedSheet : public CInternationalPropertySheet
-{
-public:
-    using CInternationalPropertySheet::CInternationalPropertySheet;
-    BOOL OnInitDialog() override
-    {
-        const BOOL focus = CInternationalPropertySheet::OnInitDialog();
-        if (onInit)
-            onInit();
-        return focus;
-    }
-    void SetText() override
-    {
-        if (const auto once = std::exchange(onText, nullptr))
-            once();
-    }
-    std::function<void()> onInit, onText;
-};
-
 CRect PlaceIn(HWND parent, HWND window)
 {
     CRect place;
@@ -119,7 +100,7 @@ protected:
         return child;
     }
     /// Shows a sheet of two pages modally and looks at it.
-    static void Show(CSizedSheet& sheet, CPropertyPage& first, CPropertyPage& second,
+    static void Show(CTestSheet& sheet, CPropertyPage& first, CPropertyPage& second,
                      const std::function<void()>& look)
     {
         sheet.AddPage(&first);
@@ -149,7 +130,7 @@ TEST_F(SheetSize, PagesOfAnyFontShowWhole)
             SCOPED_TRACE((wizard ? "wizard in " : "sheet in ") + testing::PrintToString(std::wstring(face)));
             UseFont(face, points);
             CInternationalPropertyPage one(IDD_PAGE_ONE), wide(IDD_PAGE_WIDE);
-            CSizedSheet sheet(L"Sheet", &host);
+            CTestSheet sheet(L"Sheet", &host);
             if (wizard)
                 sheet.SetWizardMode();
             Show(sheet, one, wide, [&] { ExpectAllToShow(sheet); });
@@ -161,7 +142,7 @@ TEST_F(SheetSize, PagesOfOtherClassesAndModelessSheetsShowWhole)
     UseFont(L"Arial", L"16");
     CInternationalPropertyPage one(IDD_PAGE_ONE);
     CPropertyPage plain(IDD_PAGE_WIDE);
-    CSizedSheet sheet(L"Sheet");
+    CTestSheet sheet(L"Sheet");
     sheet.AddPage(&one);
     sheet.AddPage(&plain);
     ASSERT_TRUE(sheet.Create(&host));
@@ -173,7 +154,7 @@ TEST_F(SheetSize, PagesShowWholeBelowAHeader)
 {
     UseFont(L"Arial", L"16");
     CInternationalPropertyPage one(IDD_PAGE_ONE), wide(IDD_PAGE_WIDE);
-    CSizedSheet sheet(L"Sheet", &host);
+    CTestSheet sheet(L"Sheet", &host);
     sheet.EnablePageHeader(30);
     Show(sheet, one, wide, [&] {
         ExpectAllToShow(sheet);
@@ -204,7 +185,7 @@ TEST_F(SheetSize, NothingChangesWhenAllFits)
         CPropertyPage systemPage(IDD_PAGE_ONE);
         CInternationalPropertyPage page(IDD_PAGE_ONE);
         CPropertySheet system(L"Sheet");
-        CSizedSheet sheet(L"Sheet");
+        CTestSheet sheet(L"Sheet");
         EXPECT_EQ(places(sheet, page), places(system, systemPage)) << wizard;
     }
 }
@@ -214,7 +195,7 @@ TEST_F(SheetSize, SheetGrowsByWhatItsPagesLackAndNoMore)
     const auto sizes = [&](const wchar_t* points) {
         UseFont(L"Tahoma", points);
         CInternationalPropertyPage wide(IDD_PAGE_WIDE);
-        CSizedSheet sheet(L"Sheet");
+        CTestSheet sheet(L"Sheet");
         sheet.AddPage(&wide);
         EXPECT_TRUE(sheet.Create(&host));
         CRect window, page;
@@ -230,7 +211,7 @@ TEST_F(SheetSize, SheetIsNeverLargerThanTheScreenAndItsButtonsCanBeReached)
 {
     UseFont(L"Arial", L"60");
     CInternationalPropertyPage one(IDD_PAGE_ONE), wide(IDD_PAGE_WIDE);
-    CSizedSheet sheet(L"Sheet", &host);
+    CTestSheet sheet(L"Sheet", &host);
     Show(sheet, one, wide, [&] {
         CRect screen, window, button;
         ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
@@ -246,7 +227,7 @@ TEST_F(SheetSize, GrownSheetFollowsItsSizeAndKeepsWhatADerivedClassAdds)
 {
     UseFont(L"Tahoma", L"14");
     CInternationalPropertyPage one(IDD_PAGE_ONE), wide(IDD_PAGE_WIDE);
-    CSizedSheet sheet(L"Sheet", &host);
+    CTestSheet sheet(L"Sheet", &host);
     sheet.SetResizable(TRUE);
     CWnd note;
     CRect noteThen;
@@ -282,7 +263,7 @@ TEST_F(SheetSize, DialogUnitsBecomePixelsAsTheSystemHasIt)
     {
         UseFont(L"Tahoma", points);
         CInternationalPropertyPage wide(IDD_PAGE_WIDE);
-        CSizedSheet sheet(L"Sheet");
+        CTestSheet sheet(L"Sheet");
         sheet.AddPage(&wide);
         ASSERT_TRUE(sheet.Create(&host));
         CRect mapped(0, 0, 4, 8);
