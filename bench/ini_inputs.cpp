@@ -3,21 +3,17 @@
 #include "bench/support/data.h"
 
 #include <map>
+#include <string>
 
 namespace bench
 {
 template <class Char>
 KeyNames<Char>::KeyNames(const char* name)
 {
-    const auto add = [this](const std::string& text) {
-        m_starts.push_back(static_cast<std::uint32_t>(m_texts.size()));
-        m_texts.insert(m_texts.end(), text.begin(), text.end());
-        m_texts.push_back(0);
-    };
     for (const auto& [section, key] : data_pairs(name))
     {
-        add(section);
-        add(key);
+        m_texts.add(section);
+        m_texts.add(key);
     }
 }
 

@@ -1,36 +1,17 @@
 // What INI documents are measured against natively: GLib's key files and the standard hash table.
 #include "bench/ini_inputs.h"
+#include "bench/support/allocations.h"
 #include "bench/support/data.h"
 #include "tarvo/lang/XIni.h"
 
 #include <benchmark/benchmark.h>
 #include <glib.h>
-#include <malloc.h>
 
-#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
-#include <new>
 #include <string>
 #include <unordered_map>
-
-namespace
-{
-// Not counted up in one step, which would cost every allocation measured here more than itself: the
-// program has one thread.
-std::atomic<long> allocations;
-} // namespace
-
-[[gnu::noinline]] void* operator new(std::size_t size)
-{
-    allocations.store(allocations.load(std::memory_order_relaxed) + 1, std::memory_order_relaxed);
-    if (void* const p = std::malloc(size != 0 ? size : 1))
-        return p;
-    throw std::bad_alloc();
-}
-[[gnu::noinline]] void operator delete(void* p) noexcept { std::free(p); }
-[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept { std::free(p); }
 
 namespace
 {
@@ -134,16 +115,14 @@ void ini_held(benchmark::State& state)
     const std::string bytes = bench::data_bytes("lang.utf16.ini");
     for (auto _ : state)
     {
-        const long allocationsBefore = allocations;
-        const struct mallinfo2 before = mallinfo2();
+        const long allocationsBefore = bench::allocations();
+        const double before = bench::allocated_bytes();
         XIni ini;
         ini.OpenMemory(reinterpret_cast<const unsigned char*>(bytes.data()), static_cast<int>(bytes.size()));
-        const struct mallinfo2 after = mallinfo2();
-        const double held = static_cast<double>(after.uordblks + after.hblkhd) -
-                            static_cast<double>(before.uordblks + before.hblkhd);
-        state.counters["held_of_text"] = held / static_cast<double>(bytes.size() - 2);
+        state.counters["held_of_text"] =
+            (bench::allocated_bytes() - before) / static_cast<double>(bytes.size() - 2);
         state.counters["allocations_per_key"] =
-            static_cast<double>(allocations - allocationsBefore) /
+            static_cast<double>(bench::allocations() - allocationsBefore) /
             static_cast<double>(bench::key_names<char>("lang.keys.tsv").size());
     }
 }

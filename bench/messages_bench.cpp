@@ -32,8 +32,8 @@ void messages_load_and_ask_all(benchmark::State& state)
     for (auto _ : state)
     {
         bench::load_catalogue();
-        for (const std::wstring& key : keys)
-            units += CMSGFunction::GetValue(key.c_str()).GetLength();
+        for (std::size_t i = 0; i < keys.size(); ++i)
+            units += CMSGFunction::GetValue(keys[i]).GetLength();
     }
     benchmark::DoNotOptimize(units);
 }
@@ -56,7 +56,7 @@ void messages_look_up(benchmark::State& state)
     bench::load_catalogue();
     const auto& keys = bench::wide_message_keys();
     ask_in_turn(state, [&](std::size_t at) {
-        const CString text = CMSGFunction::GetValue(keys[at].c_str());
+        const CString text = CMSGFunction::GetValue(keys[at]);
         benchmark::DoNotOptimize(text.GetString());
     });
 }
@@ -76,8 +76,8 @@ void hash_look_up(benchmark::State& state)
 {
     bench::load_catalogue();
     std::vector<CString> keys;
-    for (const std::wstring& key : bench::wide_message_keys())
-        keys.emplace_back(key.c_str());
+    for (std::size_t i = 0; i < bench::wide_message_keys().size(); ++i)
+        keys.emplace_back(bench::wide_message_keys()[i]);
     std::vector<CString> filed = keys;
     std::sort(filed.begin(), filed.end(),
               [](const CString& a, const CString& b) { return a.Right(5).Compare(b.Right(5)) < 0; });

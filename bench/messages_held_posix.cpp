@@ -1,35 +1,11 @@
 // What a loaded catalogue takes from the system.
 #include "bench/messages_inputs.h"
+#include "bench/support/allocations.h"
 #include "tarvo/msg/MSGFunction.h"
 
 #include <benchmark/benchmark.h>
-#include <malloc.h>
 
-#include <atomic>
-#include <cstdlib>
-#include <new>
-
-namespace
-{
-std::atomic<long> allocations;
-
-double allocated()
-{
-    const struct mallinfo2 now = mallinfo2();
-    return static_cast<double>(now.uordblks + now.hblkhd);
-}
-} // namespace
-
-// Counted for the catalogue's own allocations; nothing else runs while they are.
-[[gnu::noinline]] void* operator new(std::size_t size)
-{
-    allocations.fetch_add(1, std::memory_order_relaxed);
-    if (void* const p = std::malloc(size != 0 ? size : 1))
-        return p;
-    throw std::bad_alloc();
-}
-[[gnu::noinline]] void operator delete(void* p) noexcept { std::free(p); }
-[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept { std::free(p); }
+#include <cwchar>
 
 namespace
 {
@@ -40,16 +16,16 @@ void messages_held(benchmark::State& state)
     {
         CMSGFunction::Reset();
         CMSGFunction::LoadFile(); // without files: gives back what the last round took
-        const double before = allocated();
-        const long allocationsBefore = allocations;
+        const double before = bench::allocated_bytes();
+        const long allocationsBefore = bench::allocations();
         bench::load_catalogue();
         state.counters["allocations_per_message"] =
-            static_cast<double>(allocations - allocationsBefore) / static_cast<double>(keys.size());
+            static_cast<double>(bench::allocations() - allocationsBefore) / static_cast<double>(keys.size());
         double units = 0;
-        for (const std::wstring& key : keys)
-            units += static_cast<double>(key.size()) + CMSGFunction::GetValue(key.c_str()).GetLength();
+        for (std::size_t i = 0; i < keys.size(); ++i)
+            units += static_cast<double>(std::wcslen(keys[i])) + CMSGFunction::GetValue(keys[i]).GetLength();
         // After every message was asked for: what look-ups would keep counts as well.
-        state.counters["held_of_text"] = (allocated() - before) / (units * sizeof(char16_t));
+        state.counters["held_of_text"] = (bench::allocated_bytes() - before) / (units * sizeof(char16_t));
     }
 }
 

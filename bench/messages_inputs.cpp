@@ -7,28 +7,30 @@
 
 namespace bench
 {
+namespace
+{
+template <class Char>
+Texts<Char> read_keys()
+{
+    Texts<Char> keys;
+    std::istringstream lines(data_bytes("messages.keys"));
+    for (std::string line; std::getline(lines, line);)
+        keys.add(line);
+    return keys;
+}
+} // namespace
+
 std::string module_name(int number) { return (number < 10 ? "Module0" : "Module") + std::to_string(number); }
 
-const std::vector<std::string>& message_keys()
+const Texts<char>& message_keys()
 {
-    static const auto keys = [] {
-        std::vector<std::string> read;
-        std::istringstream lines(data_bytes("messages.keys"));
-        for (std::string line; std::getline(lines, line);)
-            read.push_back(line);
-        return read;
-    }();
+    static const auto keys = read_keys<char>();
     return keys;
 }
 
-const std::vector<std::wstring>& wide_message_keys()
+const Texts<wchar_t>& wide_message_keys()
 {
-    static const auto keys = [] {
-        std::vector<std::wstring> wide;
-        for (const std::string& key : message_keys())
-            wide.emplace_back(key.begin(), key.end());
-        return wide;
-    }();
+    static const auto keys = read_keys<wchar_t>();
     return keys;
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "bench/support/texts.h"
+
 #include <string>
-#include <vector>
 
 namespace bench
 {
@@ -11,8 +12,8 @@ inline constexpr int modules = 17;
 std::string module_name(int number);
 
 /// Every key of the generated messages in random order, as bytes and as wide text.
-const std::vector<std::string>& message_keys();
-const std::vector<std::wstring>& wide_message_keys();
+const Texts<char>& message_keys();
+const Texts<wchar_t>& wide_message_keys();
 
 /// Loads the message files of all modules into the catalogue. \p ending is what follows the module's name.
 void load_catalogue(const char* ending = "_kr.ini");

@@ -72,8 +72,9 @@ void ask_gettext(benchmark::State& state, const std::vector<std::string>& domain
     for (auto _ : state)
     {
         bind_anew(domains);
-        for (const std::string& key : bench::message_keys())
-            if (find_text(domains, key.c_str()) == nullptr)
+        const auto& keys = bench::message_keys();
+        for (std::size_t i = 0; i < keys.size(); ++i)
+            if (find_text(domains, keys[i]) == nullptr)
                 give_up("gettext");
     }
 }
@@ -85,12 +86,12 @@ void gettext_look_up(benchmark::State& state)
 {
     bind_anew(one_domain());
     const auto& keys = bench::message_keys();
-    for (const std::string& key : keys)
-        find_text(one_domain(), key.c_str());
+    for (std::size_t i = 0; i < keys.size(); ++i)
+        find_text(one_domain(), keys[i]);
     std::size_t at = 0;
     for (auto _ : state)
     {
-        benchmark::DoNotOptimize(::dgettext("all", keys[at].c_str()));
+        benchmark::DoNotOptimize(::dgettext("all", keys[at]));
         at = at + 1 == keys.size() ? 0 : at + 1;
     }
 }
@@ -106,8 +107,9 @@ void boost_load_and_ask_all(benchmark::State& state)
         generate.add_messages_path(folder());
         generate.add_messages_domain("all");
         const std::locale locale = generate("ko_KR.UTF-8");
-        for (const std::string& key : bench::message_keys())
-            if (boost::locale::gettext(key.c_str(), locale) == key)
+        const auto& keys = bench::message_keys();
+        for (std::size_t i = 0; i < keys.size(); ++i)
+            if (boost::locale::gettext(keys[i], locale) == keys[i])
                 give_up("Boost.Locale");
     }
 }
@@ -125,10 +127,11 @@ void icu_load_and_ask_all(benchmark::State& state)
         UErrorCode status = U_ZERO_ERROR;
         const std::unique_ptr<UResourceBundle, Close> bundle(
             ures_openDirect(folder().c_str(), "ko", &status));
-        for (const std::string& key : bench::message_keys())
+        const auto& keys = bench::message_keys();
+        for (std::size_t i = 0; i < keys.size(); ++i)
         {
             int32_t length = 0;
-            benchmark::DoNotOptimize(ures_getStringByKey(bundle.get(), key.c_str(), &length, &status));
+            benchmark::DoNotOptimize(ures_getStringByKey(bundle.get(), keys[i], &length, &status));
         }
         if (U_FAILURE(status))
             give_up("ICU");

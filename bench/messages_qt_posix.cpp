@@ -33,11 +33,12 @@ void ask_qt(benchmark::State& state, const std::vector<std::string>& names)
         std::vector<std::unique_ptr<QTranslator>> translators;
         for (const std::string& name : names)
             translators.push_back(load(name));
-        for (const std::string& key : bench::message_keys())
+        const auto& keys = bench::message_keys();
+        for (std::size_t i = 0; i < keys.size(); ++i)
         {
             QString text;
             for (const auto& translator : translators)
-                if (text = translator->translate("c", key.c_str()); !text.isNull())
+                if (text = translator->translate("c", keys[i]); !text.isNull())
                     break;
             if (text.isNull())
                 state.SkipWithError("Qt does not answer the generated messages");

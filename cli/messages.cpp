@@ -104,7 +104,7 @@ Result get(const Call& call)
 {
     const auto catalogue = load(call, 1);
     const std::wstring key = to_wide(call.operands[0]);
-    const auto value = catalogue->store().Find(CUnits(key.c_str()));
+    const auto value = catalogue->store().Find(units::asked(key));
     const std::wstring text = value ? std::wstring(view(units::to_string(*value))) : key + L" :";
     return {value ? Status::done : Status::found,
             call.format == Format::json ? JsonWriter().text(text).take() : to_utf8(text) + "\n"};

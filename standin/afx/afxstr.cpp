@@ -131,11 +131,16 @@ template <class T>
 void CStringT<T>::Prepare(int nLength, bool bKeep)
 {
     const CStringData* pData = GetData(m_pszData);
-    if (!IsShared() && nLength <= pData->nAllocLength && pData->nAllocLength != 0)
+    if (pData->nAllocLength == 0) // the shared empty text
+    {
+        m_pszData = Allocate(nLength);
+        return;
+    }
+    if (!IsShared() && nLength <= pData->nAllocLength)
         return;
     int nRoom = std::max(nLength, bKeep ? pData->nDataLength : 0);
     // A text that grows will grow again: half as much more keeps the cost of appending linear.
-    if (bKeep && nLength > pData->nAllocLength && pData->nAllocLength != 0)
+    if (bKeep && nLength > pData->nAllocLength)
         nRoom = std::max(nRoom, std::min(max_length, pData->nAllocLength + pData->nAllocLength / 2));
     PXSTR pszNew = Allocate(nRoom);
     if (bKeep)

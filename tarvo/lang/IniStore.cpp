@@ -5,10 +5,7 @@
 namespace
 {
 /// Of a key in a section, from the hashes of their names.
-std::uint32_t HashOf(std::uint32_t section, const units::view& key)
-{
-    return section * 0x9E3779B1u + units::hash(key);
-}
+std::uint32_t HashOf(std::uint32_t section, std::uint32_t key) { return section * 0x9E3779B1u + key; }
 } // namespace
 
 template <class Visit>
@@ -40,7 +37,8 @@ CKeyTable& CIniStore::Sorted(std::size_t index) const
     return *m_arrSection[index];
 }
 
-CKeyTable* CIniStore::FindSection(units::view name, std::uint32_t hash) const
+template <class Name>
+CKeyTable* CIniStore::FindSection(const Name& name, std::uint32_t hash) const
 {
     if (m_arrSection.empty())
         return nullptr;
@@ -72,37 +70,48 @@ CKeyTable& CIniStore::Make(units::view name)
     return *m_arrSection.back();
 }
 
-std::size_t CIniStore::SlotOf(Ref section, const units::view& key, std::uint32_t hash) const
+template <class Key, class IsSection>
+std::size_t CIniStore::SlotOf(const Key& key, std::uint32_t hash, IsSection isSection) const
 {
     return m_table.Find(hash, [&](Ref ref) {
         // The rest of an entry comes from memory together with its front.
         const IniEntry& entry = At(ref);
         __builtin_prefetch(entry.Units() + 32);
         __builtin_prefetch(entry.Units() + 64);
-        return units::equal(entry.Key(), key) && entry.m_nSection == section;
+        return units::equal(entry.Key(), key) && isSection(entry.m_nSection);
     });
 }
 
-const IniEntry* CIniStore::FindEntry(Ref section, units::view key, std::uint32_t hash) const
+template <class Key>
+std::size_t CIniStore::SlotOf(const CKeyTable& section, const Key& key, std::uint32_t hash) const
+{
+    return SlotOf(key, hash, [&](Ref ref) { return ref == section.m_nSection; });
+}
+
+CKeyTable* CIniStore::Find(units::asked name) const { return FindSection(name, units::hash(name)); }
+
+const IniEntry* CIniStore::Find(const CKeyTable& section, units::asked key) const
 {
     if (m_nEntries == 0)
         return nullptr;
-    const std::size_t slot = SlotOf(section, key, hash);
+    const std::size_t slot = SlotOf(section, key, HashOf(section.m_nHash, units::hash(key)));
     return m_table.IsFree(slot) ? nullptr : &At(m_table.At(slot));
 }
 
-const IniEntry* CIniStore::Find(const CKeyTable& section, units::view key) const
-{
-    return FindEntry(section.m_nSection, key, HashOf(section.m_nHash, key));
-}
-
-const IniEntry* CIniStore::Find(units::view name, units::view key, CKeyTable*& table) const
+const IniEntry* CIniStore::Find(units::asked name, units::asked key, CKeyTable*& table) const
 {
     const std::uint32_t nameHash = units::hash(name);
-    const std::uint32_t hash = HashOf(nameHash, key);
-    m_table.Prefetch(hash);
+    if (m_nEntries != 0)
+    {
+        const std::size_t slot = SlotOf(key, HashOf(nameHash, units::hash(key)), [&](Ref ref) {
+            table = &SectionAt(ref);
+            return units::equal(table->Name(), name);
+        });
+        if (!m_table.IsFree(slot))
+            return &At(m_table.At(slot));
+    }
     table = FindSection(name, nameHash);
-    return table ? FindEntry(table->m_nSection, key, hash) : nullptr;
+    return nullptr;
 }
 
 std::vector<const IniEntry*> CIniStore::ListEntries(const CKeyTable& section) const
@@ -116,8 +125,8 @@ std::vector<const IniEntry*> CIniStore::ListEntries(const CKeyTable& section) co
 void CIniStore::Set(CKeyTable& section, const units::view& key, const units::view& value)
 {
     Reserve(m_nEntries + 1);
-    const std::uint32_t hash = HashOf(section.m_nHash, key);
-    std::size_t slot = SlotOf(section.m_nSection, key, hash);
+    const std::uint32_t hash = HashOf(section.m_nHash, units::hash(key));
+    std::size_t slot = SlotOf(section, key, hash);
     IniEntry* const old = m_table.IsFree(slot) ? nullptr : &At(m_table.At(slot));
     Entries& entries = section.m_entries;
     if (old)
@@ -134,7 +143,7 @@ void CIniStore::Set(CKeyTable& section, const units::view& key, const units::vie
     if (!m_table.HasRoomFor(ref))
     {
         Index(2 * m_nEntries);
-        slot = SlotOf(section.m_nSection, key, hash);
+        slot = SlotOf(section, key, hash);
     }
     m_table.Put(slot, hash, ref);
     if (old)
@@ -187,7 +196,7 @@ void CIniStore::FillTable()
 {
     for (const Section& section : m_arrSection)
         ForEach(section->m_entries, [&](const IniEntry& entry, Ref ref) {
-            m_table.Add(HashOf(section->m_nHash, entry.Key()), ref);
+            m_table.Add(HashOf(section->m_nHash, units::hash(entry.Key())), ref);
         });
 }
 

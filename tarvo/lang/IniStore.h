@@ -10,8 +10,8 @@
 
 /// The sections and entries of one INI document. A section is found by its exact name and stays at an
 /// address of its own for as long as the store lives. One table finds the entries of all sections, by the
-/// hashes of both names: a look-up waits for a slot and for the entry, while the section is made sure of, and
-/// loading allocates nothing for single keys or sections.
+/// hashes of both names: a look-up waits for a slot and for the entry, which names its section, and loading
+/// allocates nothing for single keys or sections.
 class CIniStore
 {
 public:
@@ -24,14 +24,14 @@ public:
     std::size_t GetEntryCount() const { return m_nEntries; }
     /// Number \p index in the order of the names.
     CKeyTable& Sorted(std::size_t index) const;
-    CKeyTable* Find(units::view name) const { return FindSection(name, units::hash(name)); }
+    CKeyTable* Find(units::asked name) const;
     /// Makes the section when it is missing.
     CKeyTable& Make(units::view name);
 
     /// Null when it is missing.
-    const IniEntry* Find(const CKeyTable& section, units::view key) const;
+    const IniEntry* Find(const CKeyTable& section, units::asked key) const;
     /// The same by the section's name; \p table is the section, null when it is missing.
-    const IniEntry* Find(units::view name, units::view key, CKeyTable*& table) const;
+    const IniEntry* Find(units::asked name, units::asked key, CKeyTable*& table) const;
     /// In the order of adding.
     std::vector<const IniEntry*> ListEntries(const CKeyTable& section) const;
 
@@ -54,11 +54,14 @@ private:
     using Section = std::unique_ptr<CKeyTable, Destroy>;
 
     CKeyTable& SectionAt(Ref ref) const { return *reinterpret_cast<CKeyTable*>(m_names.At(ref)); }
-    CKeyTable* FindSection(units::view name, std::uint32_t hash) const;
+    template <class Name>
+    CKeyTable* FindSection(const Name& name, std::uint32_t hash) const;
     IniEntry& At(Ref ref) const { return *reinterpret_cast<IniEntry*>(m_texts.At(ref)); }
     /// The slot of a key's entry, or the free one where it belongs.
-    std::size_t SlotOf(Ref section, const units::view& key, std::uint32_t hash) const;
-    const IniEntry* FindEntry(Ref section, units::view key, std::uint32_t hash) const;
+    template <class Key, class IsSection>
+    std::size_t SlotOf(const Key& key, std::uint32_t hash, IsSection isSection) const;
+    template <class Key>
+    std::size_t SlotOf(const CKeyTable& section, const Key& key, std::uint32_t hash) const;
     /// Calls visit(entry, ref) for each that was not replaced.
     template <class Visit>
     void ForEach(const Entries& entries, Visit visit) const;

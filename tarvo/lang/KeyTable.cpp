@@ -6,7 +6,7 @@
 
 int CKeyTable::Lookup(const wchar_t* key, CString& value) const
 {
-    const IniEntry* entry = Find(CUnits(key));
+    const IniEntry* entry = Find(units::ask(key));
     if (!entry)
         return 0;
     value = units::to_string(entry->Value());
@@ -22,7 +22,7 @@ void CKeyTable::GetAt(int index, CString& key, CString& value) const
 
 void CKeyTable::SetAt(const wchar_t* key, const wchar_t* value) { Set(CUnits(key), CUnits(value)); }
 
-const IniEntry* CKeyTable::Find(units::view key) const { return m_pStore->Find(*this, key); }
+const IniEntry* CKeyTable::Find(units::asked key) const { return m_pStore->Find(*this, key); }
 
 void CKeyTable::Set(units::view key, units::view value) { m_pStore->Set(*this, key, value); }
 

@@ -28,7 +28,7 @@ public:
 
     /// The same over units. What Name, Find and Sorted give is valid until the next change.
     units::view Name() const { return {reinterpret_cast<const char16_t*>(this + 1), m_nName}; }
-    const IniEntry* Find(units::view key) const;
+    const IniEntry* Find(units::asked key) const;
     const IniEntry& Sorted(std::size_t index) const;
     void Set(units::view key, units::view value);
 

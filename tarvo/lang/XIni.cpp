@@ -16,16 +16,15 @@ XIni::XIni(const wchar_t* path) : XIni() { Open(path); }
 XIni::~XIni() = default;
 
 XIni::XIni(const XIni& source)
-    : m_pStore(std::make_unique<CIniStore>(*source.m_pStore)), m_strLastFound(source.m_strLastFound),
-      m_pLastFound(Twin(source.m_pLastFound)), m_pDefault(Twin(source.m_pDefault)),
-      m_nCodePage(source.m_nCodePage), m_bOpened(source.m_bOpened)
+    : m_pStore(std::make_unique<CIniStore>(*source.m_pStore)), m_pLastFound(Twin(source.m_pLastFound)),
+      m_pDefault(Twin(source.m_pDefault)), m_nCodePage(source.m_nCodePage), m_bOpened(source.m_bOpened)
 {
 }
 
 /// This document's section of the same name.
 CKeyTable* XIni::Twin(const CKeyTable* section) const
 {
-    return section ? m_pStore->Find(section->Name()) : nullptr;
+    return section ? &m_pStore->Make(section->Name()) : nullptr;
 }
 
 XIni& XIni::operator=(const XIni& source)
@@ -38,7 +37,6 @@ XIni& XIni::operator=(const XIni& source)
 void XIni::Swap(XIni& other)
 {
     std::swap(m_pStore, other.m_pStore);
-    std::swap(m_strLastFound, other.m_strLastFound);
     std::swap(m_pLastFound, other.m_pLastFound);
     std::swap(m_pDefault, other.m_pDefault);
     std::swap(m_nCodePage, other.m_nCodePage);
@@ -48,7 +46,6 @@ void XIni::Swap(XIni& other)
 void XIni::Init()
 {
     m_pStore = std::make_unique<CIniStore>();
-    m_strLastFound.clear();
     m_pLastFound = nullptr;
     m_pDefault = nullptr;
     m_bOpened = 0;
@@ -266,28 +263,26 @@ CKeyTable* XIni::StartSection(units::view name)
     return table;
 }
 
-CKeyTable* XIni::CachedSection(units::view name) const
+template <class Name>
+CKeyTable* XIni::CachedSection(const Name& name) const
 {
-    return m_pLastFound && units::equal_no_case(name, m_strLastFound) ? m_pLastFound : nullptr;
+    return m_pLastFound && units::equal_no_case(m_pLastFound->Name(), name) ? m_pLastFound : nullptr;
+}
+
+CKeyTable* XIni::Remember(CKeyTable* found)
+{
+    if (found)
+        m_pLastFound = found;
+    return found;
 }
 
 CKeyTable* XIni::FindSection(const wchar_t* section)
 {
     if (!section)
         return m_pDefault;
-    const CUnits name(section);
+    const units::asked name(section);
     CKeyTable* const cached = CachedSection(name);
-    return cached ? cached : Remember(name, m_pStore->Find(name));
-}
-
-CKeyTable* XIni::Remember(units::view name, CKeyTable* found)
-{
-    if (found)
-    {
-        m_strLastFound = name;
-        m_pLastFound = found;
-    }
-    return found;
+    return cached ? cached : Remember(m_pStore->Find(name));
 }
 
 CKeyTable* XIni::FindOrMakeSection(units::view section)
@@ -303,14 +298,15 @@ CKeyTable* XIni::GetOrMakeSection(const wchar_t* section)
 
 const IniEntry* XIni::FindEntry(const wchar_t* section, const wchar_t* key)
 {
-    const CUnits name(section), keyName(key);
-    if (const CKeyTable* const table = section ? CachedSection(name) : m_pDefault)
-        return table->Find(keyName);
+    const units::asked keyName = units::ask(key);
     if (!section)
-        return nullptr;
+        return m_pDefault ? m_pDefault->Find(keyName) : nullptr;
+    const units::asked name(section);
+    if (const CKeyTable* const cached = CachedSection(name))
+        return cached->Find(keyName);
     CKeyTable* table;
     const IniEntry* const entry = m_pStore->Find(name, keyName, table);
-    Remember(name, table);
+    Remember(table);
     return entry;
 }
 

@@ -106,14 +106,14 @@ private:
     int Ascii2Unicode(std::string_view bytes);
     CKeyTable* StartSection(units::view name);
     CKeyTable* Twin(const CKeyTable* section) const;
-    CKeyTable* CachedSection(units::view name) const;
-    CKeyTable* Remember(units::view name, CKeyTable* found);
+    template <class Name>
+    CKeyTable* CachedSection(const Name& name) const;
+    CKeyTable* Remember(CKeyTable* found);
     CKeyTable* FindSection(const wchar_t* section);
     CKeyTable* FindOrMakeSection(units::view section);
     const IniEntry* FindEntry(const wchar_t* section, const wchar_t* key);
 
     std::unique_ptr<CIniStore> m_pStore;
-    std::u16string m_strLastFound;     ///< the name under which m_pLastFound was asked for
     CKeyTable* m_pLastFound = nullptr; ///< until a section has been found, the cache answers nothing
     CKeyTable* m_pDefault = nullptr;
     int m_nCodePage = 0;

@@ -57,9 +57,10 @@ std::size_t CMessageStore::BytesOf(const Record& record)
     return BytesOf(std::size_t{record.keyLength & ~kReplaced} + record.valueLength);
 }
 
-std::size_t CMessageStore::SlotOf(units::view key, std::uint32_t hash) const
+template <class Key>
+std::size_t CMessageStore::SlotOf(const Key& key, std::uint32_t hash) const
 {
-    return m_table.Find(hash, [this, key](Ref ref) {
+    return m_table.Find(hash, [&](Ref ref) {
         // The rest of a record comes from memory together with its front.
         const Record& record = At(ref);
         __builtin_prefetch(record.Units() + 32);
@@ -105,7 +106,8 @@ void CMessageStore::Set(units::view key, units::view value)
     Tidy();
 }
 
-std::optional<units::view> CMessageStore::Find(units::view key) const
+template <class Key>
+std::optional<units::view> CMessageStore::FindKey(const Key& key) const
 {
     if (m_nCount == 0)
         return std::nullopt;
@@ -114,6 +116,9 @@ std::optional<units::view> CMessageStore::Find(units::view key) const
         return std::nullopt;
     return At(m_table.At(slot)).Value();
 }
+
+std::optional<units::view> CMessageStore::Find(units::view key) const { return FindKey(key); }
+std::optional<units::view> CMessageStore::Find(units::asked key) const { return FindKey(key); }
 
 std::vector<CMessageStore::Message> CMessageStore::Sorted() const
 {

@@ -42,6 +42,7 @@ public:
     void Set(units::view key, units::view value);
     /// The text of a key; valid until the next change.
     std::optional<units::view> Find(units::view key) const;
+    std::optional<units::view> Find(units::asked key) const;
     /// All messages in the ordinal order of their keys; valid until the next change.
     std::vector<Message> Sorted() const;
     /// Drops all messages and keeps the memory for the next ones; Trim gives back what is not in use.
@@ -68,7 +69,10 @@ private:
     static std::size_t BytesOf(const Record& record);
     Record& At(Ref ref) const { return *reinterpret_cast<Record*>(m_records.At(ref)); }
     /// The slot of \p key, or the free one where it belongs.
-    std::size_t SlotOf(units::view key, std::uint32_t hash) const;
+    template <class Key>
+    std::size_t SlotOf(const Key& key, std::uint32_t hash) const;
+    template <class Key>
+    std::optional<units::view> FindKey(const Key& key) const;
     void Add(std::size_t slot, std::uint32_t hash, units::view key, units::view value);
     void Place(std::size_t slot, std::uint32_t hash, Ref ref);
     Ref Append(std::uint32_t hash, units::view key, units::view value);

@@ -67,13 +67,13 @@ bool msg_reader::read_messages(const CString& path)
 
 CString msg_reader::get_value(const wchar_t* key) const
 {
-    const auto found = m_store.Find(CUnits(key));
+    const auto found = m_store.Find(units::ask(key));
     return found ? units::to_string(*found) : CString(key) + L" :";
 }
 
 bool msg_reader::find_value(const wchar_t* key, CString& value) const
 {
-    const auto found = m_store.Find(CUnits(key));
+    const auto found = m_store.Find(units::ask(key));
     if (found)
         value = units::to_string(*found);
     return found.has_value();

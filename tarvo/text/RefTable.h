@@ -78,14 +78,13 @@ public:
              first = first + kGroup == m_arrSlot.size() ? 0 : first + kGroup)
         {
             const CSlotGroup group(&m_arrSlot[first]);
-            const unsigned free = group.Equal(~Slot{0}, 0);
-            for (unsigned found = group.Equal(mask, tag) & ~free; found != 0; found &= found - 1)
+            for (unsigned found = group.Equal(mask, tag); found != 0; found &= found - 1)
             {
                 const auto slot = first + static_cast<unsigned>(std::countr_zero(found));
-                if (isWanted(At(slot)))
+                if (!IsFree(slot) && isWanted(At(slot)))
                     return slot;
             }
-            if (free != 0)
+            if (const unsigned free = group.Equal(~Slot{0}, 0); free != 0)
                 return first + static_cast<unsigned>(std::countr_zero(free));
         }
     }
@@ -106,12 +105,10 @@ private:
     Slot TagMask() const { return static_cast<Slot>(~std::uint64_t{0} << m_nRefBits); }
     Slot TagOf(std::uint32_t hash) const { return static_cast<Slot>(std::uint64_t{hash} << m_nRefBits); }
     /// The first slot of the group where a record belongs; when that is full, it is in the next one.
-    std::size_t HomeOf(std::uint32_t hash) const
-    {
-        return (std::uint64_t{hash} * (m_arrSlot.size() / kGroup) >> 32) * kGroup;
-    }
+    std::size_t HomeOf(std::uint32_t hash) const { return (std::uint64_t{hash} * m_nGroups >> 32) * kGroup; }
 
     std::vector<Slot> m_arrSlot;
-    std::size_t m_nRoom = 0; ///< records that there is room for
+    std::size_t m_nGroups = 0; ///< of m_arrSlot
+    std::size_t m_nRoom = 0;   ///< records that there is room for
     unsigned m_nRefBits = 0;
 };

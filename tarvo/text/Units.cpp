@@ -7,10 +7,6 @@
 #include <cstring>
 #include <cwchar>
 
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#endif
-
 static_assert(std::endian::native == std::endian::little, "the first unit stands in a word's lowest bits");
 
 namespace units
@@ -94,6 +90,19 @@ const char16_t* skip_steps(const char16_t* first, const char16_t* last, const Wa
 }
 #endif
 
+template <class Other>
+bool equal_folded(view a, const std::basic_string_view<Other>& b)
+{
+    if (a.size() != b.size())
+        return false;
+    // Names of one file mostly begin alike (IDD_...): they differ at the end first.
+    for (std::size_t i = a.size(); i-- > 0;)
+        if (const auto other = static_cast<char16_t>(b[i]);
+            a[i] != other && platform::letters::fold(a[i]) != platform::letters::fold(other))
+            return false;
+    return true;
+}
+
 template <class Wanted>
 const char16_t* find_wanted(const char16_t* first, const char16_t* last, const Wanted& wanted)
 {
@@ -127,12 +136,6 @@ const char16_t* find_break(const char16_t* first, const char16_t* last)
     return find_wanted(first, last, Either{u'\n', u'\r'});
 }
 
-bool equal(view a, view b)
-{
-    return a.size() == b.size() &&
-           (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0);
-}
-
 int compare(view a, view b)
 {
     const std::size_t shared = std::min(a.size(), b.size());
@@ -147,17 +150,6 @@ int compare(view a, view b)
         if (a[i] != b[i])
             return a[i] < b[i] ? -1 : 1;
     return a.size() == b.size() ? 0 : a.size() < b.size() ? -1 : 1;
-}
-
-bool equal_no_case(view a, view b)
-{
-    if (a.size() != b.size())
-        return false;
-    // Names of one file mostly begin alike (IDD_...): they differ at the end first.
-    for (std::size_t i = a.size(); i-- > 0;)
-        if (a[i] != b[i] && platform::letters::fold(a[i]) != platform::letters::fold(b[i]))
-            return false;
-    return true;
 }
 
 namespace
@@ -179,11 +171,32 @@ void copy_eight(const char16_t* from, wchar_t* to)
     _mm_storeu_si128(p, _mm_unpacklo_epi16(units, _mm_setzero_si128()));
     _mm_storeu_si128(p + 1, _mm_unpackhi_epi16(units, _mm_setzero_si128()));
 }
+/// The bits of the eight that are the same are set.
+__m128i same_eight(const char16_t* units, const wchar_t* text)
+{
+    const __m128i eight = _mm_loadu_si128(reinterpret_cast<const __m128i*>(units));
+    const auto* const p = reinterpret_cast<const __m128i*>(text);
+    const __m128i low = _mm_cmpeq_epi32(_mm_unpacklo_epi16(eight, _mm_setzero_si128()), _mm_loadu_si128(p));
+    const __m128i high =
+        _mm_cmpeq_epi32(_mm_unpackhi_epi16(eight, _mm_setzero_si128()), _mm_loadu_si128(p + 1));
+    return _mm_and_si128(low, high);
+}
+bool same_units(const char16_t* units, const wchar_t* text, std::size_t count)
+{
+    __m128i all = same_eight(units + count - 8, text + count - 8); // overlaps the last step
+    for (std::size_t i = 0; i + 8 < count; i += 8)
+        all = _mm_and_si128(all, same_eight(units + i, text + i));
+    return _mm_movemask_epi8(all) == 0xFFFF;
+}
 #else
 template <class From, class To>
 void copy_eight(const From* from, To* to)
 {
     std::copy_n(from, 8, to);
+}
+bool same_units(const char16_t* units, const wchar_t* text, std::size_t count)
+{
+    return std::equal(text, text + count, units);
 }
 #endif
 
@@ -196,12 +209,34 @@ void copy_units(const From* from, std::size_t count, To* to)
         std::transform(from, from + count, to, [](From unit) { return static_cast<To>(unit); });
     else
     {
-        for (std::size_t i = 0; i + 8 < count; i += 8)
-            copy_eight(from + i, to + i);
-        copy_eight(from + count - 8, to + count - 8); // overlaps the step before
+        // Most texts end here: what is copied twice costs less than an end that cannot be foreseen.
+        constexpr std::size_t kAtOnce = 48;
+#pragma GCC unroll 6
+        for (std::size_t i = 0; i < kAtOnce; i += 8)
+        {
+            const std::size_t at = std::min(i, count - 8);
+            copy_eight(from + at, to + at);
+        }
+        for (std::size_t i = kAtOnce; i < count; i += 8)
+        {
+            const std::size_t at = std::min(i, count - 8);
+            copy_eight(from + at, to + at);
+        }
     }
 }
 } // namespace
+
+bool equal_no_case(view a, view b) { return equal_folded(a, b); }
+bool equal_no_case(view a, asked b) { return equal_folded(a, b); }
+
+bool same(const char16_t* units, const wchar_t* text, std::size_t count)
+{
+    if constexpr (sizeof(wchar_t) == sizeof(char16_t))
+        return count == 0 || std::memcmp(units, text, count * sizeof(char16_t)) == 0;
+    if (count < 8)
+        return std::equal(text, text + count, units, [](wchar_t a, char16_t b) { return a == wchar_t{b}; });
+    return same_units(units, text, count);
+}
 
 CString to_string(view text)
 {

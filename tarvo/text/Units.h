@@ -10,6 +10,10 @@
 #include <memory>
 #include <string_view>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 /// Stored text is UTF-16 units of 16 bits on every platform, half of what wide text takes natively. Here
 /// is what the readers of files need over such runs: four units are looked at in one step.
 namespace units
@@ -17,6 +21,11 @@ namespace units
 /// Windows hands views over in memory, and copying one that was just written there waits for it: what every
 /// line of a file passes through takes them by reference or is inline.
 using view = std::u16string_view;
+/// A wide text that is looked for among units as it stands: a processor that reads what it has just written,
+/// in other pieces, waits until all before that is done.
+using asked = std::wstring_view;
+
+inline asked ask(const wchar_t* text) { return text ? asked(text) : asked(); }
 
 /// The first unit of [\p first, \p last) that equals \p unit; \p last when there is none.
 TARVO_API const char16_t* find(const char16_t* first, const char16_t* last, char16_t unit);
@@ -26,39 +35,75 @@ TARVO_API const char16_t* find_pair(const char16_t* first, const char16_t* last,
 /// The first line feed or carriage return.
 TARVO_API const char16_t* find_break(const char16_t* first, const char16_t* last);
 
-inline std::uint32_t hash(const view& text)
+/// Four units as one word: the first, third, second and fourth from its lowest bits up, as two words of wide
+/// characters fall into one another.
+inline std::uint64_t load_four(const char16_t* four)
+{
+    std::uint64_t word;
+    std::memcpy(&word, four, sizeof word);
+    const std::uint64_t crossed = (word ^ word >> 16) & 0x00000000FFFF0000;
+    return word ^ crossed ^ crossed << 16;
+}
+inline std::uint64_t load_four(const wchar_t* four)
+{
+    if constexpr (sizeof(wchar_t) == sizeof(char16_t))
+    {
+        char16_t units[4];
+        std::memcpy(units, four, sizeof units);
+        return load_four(units);
+    }
+    std::uint64_t words[2];
+    std::memcpy(words, four, sizeof words);
+    return words[0] | words[1] << 16;
+}
+
+/// The hash of a text, the same for its units and for as many wide characters.
+template <class Char>
+std::uint32_t hash(const std::basic_string_view<Char>& text)
 {
     constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15;
-    const auto load = [](const char16_t* four) {
-        std::uint64_t word;
-        std::memcpy(&word, four, sizeof word);
-        return word;
-    };
     const auto mix = [](std::uint64_t a, std::uint64_t b) {
         __extension__ const unsigned __int128 product = static_cast<unsigned __int128>(a) * b;
         return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
     };
-    const char16_t* p = text.data();
-    std::size_t left = text.size();
-    std::uint64_t h = left * kFactor;
-    for (; left > 8; left -= 8, p += 8)
-        h = mix(load(p) ^ kFactor, load(p + 4) ^ h);
-    // The last words overlap what went before, so that they are whole ones.
-    std::uint64_t first = 0, last = 0;
-    if (left >= 4)
+    const Char* p = text.data();
+    const std::size_t count = text.size();
+    std::uint64_t h = count * kFactor, first = 0, last = 0;
+    if (count >= 8)
     {
-        first = load(p);
-        last = load(p + left - 4);
+        // The last words overlap what went before, so that they are whole ones.
+        const Char* const end = p + count;
+        for (; end - p > 8; p += 8)
+            h = mix(load_four(p) ^ kFactor, load_four(p + 4) ^ h);
+        first = load_four(end - 8);
+        last = load_four(end - 4);
+    }
+    else if (count >= 4)
+    {
+        first = load_four(p);
+        last = load_four(p + count - 4);
     }
     else
-        for (std::size_t i = 0; i < left; ++i)
-            first = first << 16 | p[i];
+        for (std::size_t i = 0; i < count; ++i)
+            first = first << 16 | static_cast<char16_t>(p[i]);
     return static_cast<std::uint32_t>(mix(mix(first ^ kFactor, last ^ h), kFactor));
 }
+inline std::uint32_t hash(const view& text) { return hash<char16_t>(text); }
 /// Below, equal to or above zero by the first unit that differs, then by length.
 TARVO_API int compare(view a, view b);
-TARVO_API bool equal(view a, view b);
+inline bool equal(const view& a, const view& b)
+{
+    return a.size() == b.size() &&
+           (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0);
+}
+/// Whether \p count units at \p units are these wide characters.
+TARVO_API bool same(const char16_t* units, const wchar_t* text, std::size_t count);
+inline bool equal(const view& a, const asked& b)
+{
+    return a.size() == b.size() && same(a.data(), b.data(), b.size());
+}
 TARVO_API bool equal_no_case(view a, view b);
+TARVO_API bool equal_no_case(view a, asked b);
 /// \p text without the white space (platform::letters::is_space) at both ends.
 [[gnu::always_inline]] inline view trim(view text)
 {

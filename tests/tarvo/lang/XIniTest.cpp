@@ -334,7 +334,7 @@ TEST(XIni, KeysOfOneNameInManySectionsAreTheirOwn)
             ASSERT_EQ(table->GetCount(), 40);
             for (int k = 0; k < 40; ++k)
                 ASSERT_EQ(each.GetInt(name(L"S", s).c_str(), name(L"key", k).c_str(), -1, 10), s * 1000 + k);
-            ASSERT_FALSE(table->Find(u"key40"));
+            ASSERT_FALSE(table->Find(L"key40"));
         }
     EXPECT_EQ(ini.GetStr(L"key1", L"S1", L"none"), L"none") << "section and key are no other way round";
 }

@@ -4,6 +4,8 @@
 
 #include <random>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 TEST(Units, AreCopiedWholeAtEveryLengthAndNothingBehindThem)
@@ -34,6 +36,81 @@ TEST(Units, PairsAreFoundWhereverTheyStand)
         ASSERT_EQ(units::find_pair(exact.data(), end, u'I', u'D'),
                   found == std::u16string::npos ? end : exact.data() + found)
             << testing::PrintToString(text);
+    }
+}
+
+namespace
+{
+/// Differs from every other of its length.
+std::u16string text_of(std::size_t length)
+{
+    std::u16string text(length, u'\0');
+    for (std::size_t i = 0; i < length; ++i)
+        text[i] = static_cast<char16_t>(0xFFF0 - i * 977);
+    return text;
+}
+
+std::wstring wide_of(const std::u16string& text) { return std::wstring(text.begin(), text.end()); }
+} // namespace
+
+TEST(Units, EqualTheWideTextThatIsAskedForAndNoOtherOfAnyLength)
+{
+    for (std::size_t length = 0; length < 70; ++length)
+    {
+        const std::u16string text = text_of(length);
+        std::wstring asked = wide_of(text);
+        EXPECT_TRUE(units::equal(text, units::asked(asked))) << length;
+        EXPECT_EQ(units::hash(units::asked(asked)), units::hash(text)) << length;
+        EXPECT_FALSE(units::equal(text, units::asked(asked + L'\0'))) << length;
+        for (std::size_t i = 0; i < length; ++i)
+        {
+            ++asked[i];
+            EXPECT_FALSE(units::equal(text, units::asked(asked))) << length << " " << i;
+            EXPECT_NE(units::hash(units::asked(asked)), units::hash(text)) << length << " " << i;
+            --asked[i];
+        }
+    }
+}
+
+TEST(Units, HaveOtherHashesWhenTwoOfThemChangePlaces)
+{
+    for (std::size_t length = 2; length < 40; ++length)
+        for (std::size_t i = 0; i + 1 < length; ++i)
+        {
+            std::u16string other = text_of(length);
+            std::swap(other[i], other[i + 1]);
+            EXPECT_NE(units::hash(other), units::hash(text_of(length))) << length << " " << i;
+        }
+}
+
+TEST(Units, EqualTheWideTextWithoutRegardToCase)
+{
+    for (const auto& [text, asked, expected] :
+         {std::tuple(u"IDD_ABOUT", L"idd_about", true), std::tuple(u"IDD_ABOUT", L"IDD_ABOUS", false),
+          std::tuple(u"IDD_ABOUT", L"IDD_ABOU", false), std::tuple(u"", L"", true),
+          std::tuple(u"\u0416\u00C9", L"\u0436\u00E9", true)})
+    {
+        EXPECT_EQ(units::equal_no_case(text, units::asked(asked)), expected) << asked;
+        EXPECT_EQ(units::equal_no_case(text, units::view(u"IDD_ABOUT")),
+                  units::equal_no_case(u"IDD_ABOUT", units::view(text)));
+    }
+}
+
+TEST(Units, BecomeStringsOfTheFrameworkAtEveryLength)
+{
+    for (std::size_t length = 0; length < 130; ++length)
+    {
+        const std::u16string text = text_of(length);
+        const CString string = units::to_string(text);
+        EXPECT_EQ(std::wstring(string.GetString(), static_cast<std::size_t>(string.GetLength())),
+                  wide_of(text));
+        EXPECT_EQ(string.GetString()[length], L'\0');
+        std::vector<wchar_t> out(length + 8, L'#');
+        units::widen(text.data(), length, out.data());
+        EXPECT_EQ(std::wstring(out.begin(), out.end()), wide_of(text) + L"########") << length;
+        std::vector<char16_t> back(length + 8, u'#');
+        units::narrow(out.data(), length, back.data());
+        EXPECT_EQ(std::u16string(back.begin(), back.end()), text + u"########") << length;
     }
 }
 
