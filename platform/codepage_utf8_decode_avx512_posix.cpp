@@ -3,6 +3,9 @@
 #ifdef TARVO_HAS_SHUFFLE
 // The compiler takes the undefined values inside its own header for mistakes.
 #pragma GCC diagnostic ignored "-Wuninitialized"
+#ifndef __clang__
+#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+#endif
 #include <immintrin.h>
 
 // Runs only where the processor has these instructions, and can be part of nothing that runs elsewhere.
@@ -75,21 +78,20 @@ TARVO_AVX512 inline Unit* decode32(const std::uint8_t* p, std::uint32_t begins, 
 
 std::uint32_t lower(std::uint64_t bits) { return static_cast<std::uint32_t>(bits); }
 std::uint32_t upper(std::uint64_t bits) { return static_cast<std::uint32_t>(bits >> 32); }
-} // namespace
-
-bool has_avx512()
-{
-    return __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512vbmi2") &&
-           __builtin_cpu_supports("popcnt");
-}
 
 template <class Unit>
-TARVO_AVX512 Progress<std::uint8_t, Unit> decode_utf8_blocks_avx512(Progress<std::uint8_t, Unit> at,
-                                                                    const std::uint8_t* stop,
-                                                                    const std::uint8_t* end)
+TARVO_AVX512 Progress<std::uint8_t, Unit> decode_blocks(Progress<std::uint8_t, Unit> at,
+                                                        const std::uint8_t* stop, const std::uint8_t* end)
 {
     while (another_block(at.in, stop, end))
     {
+        if (_mm512_movepi8_mask(load(at.in)) == 0) // plain ASCII
+        {
+            store32(widen32(at.in), at.out);
+            store32(widen32(at.in + 32), at.out + 32);
+            at = {at.in + block_size, at.out + block_size};
+            continue;
+        }
         const Kinds kinds = kinds_of(at.in);
         if (!kinds.well_formed())
             break;
@@ -100,6 +102,21 @@ TARVO_AVX512 Progress<std::uint8_t, Unit> decode_utf8_blocks_avx512(Progress<std
         at.in += whole;
     }
     return at;
+}
+} // namespace
+
+bool has_avx512()
+{
+    return __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512vbmi2") &&
+           __builtin_cpu_supports("popcnt");
+}
+
+// What is declared for all processors cannot use these instructions itself.
+template <class Unit>
+Progress<std::uint8_t, Unit> decode_utf8_blocks_avx512(Progress<std::uint8_t, Unit> at,
+                                                       const std::uint8_t* stop, const std::uint8_t* end)
+{
+    return decode_blocks(at, stop, end);
 }
 
 template Progress<std::uint8_t, char16_t> decode_utf8_blocks_avx512(Progress<std::uint8_t, char16_t>,
