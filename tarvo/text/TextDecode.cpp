@@ -6,8 +6,10 @@
 #include "tarvo/text/Units.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstring>
+#include <span>
 #include <utility>
 
 namespace
@@ -166,22 +168,29 @@ std::size_t DecodeUtf8(std::string_view& bytes, char16_t* out)
     return static_cast<std::size_t>(out - begin) + DecodeUtf8Slowly(bytes, out);
 }
 
-/// How far before a line break a byte can stand that takes the break for a part of its character.
-std::size_t LeadReach() { return platform::codepage::ansi_page() == platform::codepage::utf8 ? 3 : 1; }
+/// The least byte that, so many places before a line break (from 1), takes the break for a part of its
+/// character.
+using Leads = std::span<const std::uint8_t>;
 
-bool IsDoubtful(std::string_view bytes, std::size_t lineBreak, std::size_t reach)
+Leads LeadsOfPage()
 {
-    for (std::size_t i = 1; i <= reach && i <= lineBreak; ++i)
-        if (First(bytes)[lineBreak - i] >= 0x80)
+    static constexpr std::uint8_t ofUtf8[] = {0xC0, 0xE0, 0xF0}, ofTwoBytes[] = {0x80};
+    return platform::codepage::ansi_page() == platform::codepage::utf8 ? Leads(ofUtf8) : Leads(ofTwoBytes);
+}
+
+bool IsDoubtful(std::string_view bytes, std::size_t lineBreak, Leads leads)
+{
+    for (std::size_t i = 0; i < leads.size() && i < lineBreak; ++i)
+        if (First(bytes)[lineBreak - i - 1] >= leads[i])
             return true;
     return false;
 }
 
 /// The first \p lineBreak behind a byte that may be the start of a character, or the end.
-std::size_t FindDoubtful(std::string_view bytes, char lineBreak, std::size_t reach)
+std::size_t FindDoubtful(std::string_view bytes, char lineBreak, Leads leads)
 {
     std::size_t at = 0;
-    while ((at = bytes.find(lineBreak, at)) != std::string_view::npos && !IsDoubtful(bytes, at, reach))
+    while ((at = bytes.find(lineBreak, at)) != std::string_view::npos && !IsDoubtful(bytes, at, leads))
         ++at;
     return std::min(at, bytes.size());
 }
@@ -189,13 +198,12 @@ std::size_t FindDoubtful(std::string_view bytes, char lineBreak, std::size_t rea
 /// Cuts \p bytes at every doubtful \p lineBreak and hands the pieces without it to \p decode, which gives
 /// the units it wrote.
 template <class Decode>
-std::size_t DecodePieces(std::string_view bytes, char lineBreak, std::size_t reach, char16_t* out,
-                         Decode decode)
+std::size_t DecodePieces(std::string_view bytes, char lineBreak, Leads leads, char16_t* out, Decode decode)
 {
     char16_t* const begin = out;
     while (!bytes.empty())
     {
-        const std::string_view piece = bytes.substr(0, FindDoubtful(bytes, lineBreak, reach));
+        const std::string_view piece = bytes.substr(0, FindDoubtful(bytes, lineBreak, leads));
         out += decode(piece, out);
         bytes.remove_prefix(piece.size());
         for (; !bytes.empty() && bytes.front() == lineBreak; bytes.remove_prefix(1))
@@ -204,46 +212,64 @@ std::size_t DecodePieces(std::string_view bytes, char lineBreak, std::size_t rea
     return static_cast<std::size_t>(out - begin);
 }
 
-/// True when any line break is doubtful.
-bool HasDoubtful(std::string_view bytes, std::size_t reach)
+/// What a text is to a conversion that goes line by line.
+enum class Lines
 {
-    constexpr platform::codepage::ByteSet high = {0, 0x80, 0x7F}, feed = {0, '\n', 0},
-                                          carriage = {0, '\r', 0};
+    Ascii, ///< the same in every page
+    Clear, ///< no line break can be a part of a character
+    Doubtful
+};
+
+Lines LinesOf(std::string_view bytes, Leads leads)
+{
+    constexpr platform::codepage::ByteSet feed = {0, '\n', 0}, carriage = {0, '\r', 0};
     const std::uint8_t* at = First(bytes);
     const std::uint8_t* const end = at + bytes.size();
-    std::uint64_t before = 0; // of the last block
+    std::array<std::uint64_t, 3> before = {}; // by place the leads of the last block
+    bool isAscii = true, areAllAscii = true;  // it was, they were
     for (; end - at >= block_size; at += block_size)
     {
         const Block block(at);
-        if (before == 0 && block.ascii())
+        const bool wasAscii = std::exchange(isAscii, block.ascii());
+        if (wasAscii && isAscii)
             continue;
-        const std::uint64_t now = block.in(high);
+        areAllAscii = false;
         std::uint64_t reached = 0;
-        for (std::size_t i = 1; i <= reach; ++i)
-            reached |= now << i | before >> (block_size - static_cast<std::ptrdiff_t>(i));
-        if ((reached & (block.in(feed) | block.in(carriage))) != 0)
-            return true;
-        before = now;
+        for (std::size_t i = 0; i < leads.size(); ++i)
+        {
+            const std::uint64_t now = block.in({0, leads[i], static_cast<std::uint8_t>(0xFF - leads[i])});
+            reached |= now << (i + 1) | before[i] >> (block_size - 1 - static_cast<std::ptrdiff_t>(i));
+            before[i] = now;
+        }
+        if (reached != 0 && (reached & (block.in(feed) | block.in(carriage))) != 0)
+            return Lines::Doubtful;
     }
-    const std::string_view rest =
-        bytes.substr(bytes.size() - std::min(bytes.size(), static_cast<std::size_t>(end - at) + reach));
-    return FindDoubtful(rest, '\n', reach) != rest.size() || FindDoubtful(rest, '\r', reach) != rest.size();
+    const std::string_view rest = bytes.substr(
+        bytes.size() - std::min(bytes.size(), static_cast<std::size_t>(end - at) + leads.size()));
+    if (FindDoubtful(rest, '\n', leads) != rest.size() || FindDoubtful(rest, '\r', leads) != rest.size())
+        return Lines::Doubtful;
+    const bool isAsciiToTheEnd = std::none_of(at, end, [](std::uint8_t byte) { return byte >= 0x80; });
+    return areAllAscii && isAsciiToTheEnd ? Lines::Ascii : Lines::Clear;
 }
 
-std::size_t DecodeWhole(std::string_view bytes, char16_t* out)
+std::size_t DecodeWhole(std::string_view bytes, char16_t* out, int page = platform::codepage::ansi)
 {
-    return platform::codepage::decode(platform::codepage::ansi, bytes, out).value_or(0);
+    return platform::codepage::decode(page, bytes, out).value_or(0);
 }
 
 /// Line by line as far as the result goes, but in pieces as long as they can be: conversion is quickest
 /// over many lines, and hardly a line ends in half a character.
 std::size_t DecodeAnsi(std::string_view bytes, char16_t* out)
 {
-    const std::size_t reach = LeadReach();
-    if (!HasDoubtful(bytes, reach))
+    const Leads leads = LeadsOfPage();
+    const Lines lines = LinesOf(bytes, leads);
+    if (lines == Lines::Ascii) // UTF-8 has the quickest decoder
+        return DecodeWhole(bytes, out, platform::codepage::utf8);
+    if (lines == Lines::Clear)
         return DecodeWhole(bytes, out);
-    return DecodePieces(bytes, '\n', reach, out, [reach](std::string_view lines, char16_t* to) {
-        return DecodePieces(lines, '\r', reach, to, DecodeWhole);
+    const auto decode = [](std::string_view piece, char16_t* to) { return DecodeWhole(piece, to); };
+    return DecodePieces(bytes, '\n', leads, out, [&](std::string_view piece, char16_t* to) {
+        return DecodePieces(piece, '\r', leads, to, decode);
     });
 }
 
