@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 
 /// Memory for large things that are made and dropped as a whole, such as the texts of a language file.
 namespace platform::memory
@@ -8,12 +9,18 @@ namespace platform::memory
 /// Pieces of this size, which is what most of it should be taken in, are cheap to take again.
 inline constexpr std::size_t kBlock = std::size_t{256} << 10;
 
-/// \p bytes that nothing was written to, aligned for any type. Throws std::bad_alloc.
+/// \p bytes that nothing was written to, aligned for any type. Much larger pieces come in large pages where
+/// the system has them, instead of page by page as they are touched. Throws std::bad_alloc.
 char* take(std::size_t bytes);
 /// Ends the use of what take gave for \p bytes.
 void give_back(char* memory, std::size_t bytes) noexcept;
 
-/// Says that all of a block much larger than that will soon be written to, so that the system may give it in
-/// large pages instead of one by one as they are touched. It changes nothing else.
-void expect_use(void* block, std::size_t size);
+struct GiveBack
+{
+    std::size_t size; ///< bytes
+    void operator()(char* memory) const { give_back(memory, size); }
+};
+using Piece = std::unique_ptr<char, GiveBack>;
+
+inline Piece take_piece(std::size_t bytes) { return Piece(take(bytes), GiveBack{bytes}); }
 } // namespace platform::memory

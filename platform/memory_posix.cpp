@@ -7,20 +7,32 @@
 
 namespace platform::memory
 {
+namespace
+{
+constexpr std::size_t kLargePage = std::size_t{2} << 20;
+
+/// A block of a few large pages begins with one. In a larger one those inside are enough, and the C library
+/// takes it from what was given back before, which it does not do for one that must begin at such a place.
+void* take_large(std::size_t bytes)
+{
+    void* const memory =
+        bytes < 4 * kLargePage
+            ? std::aligned_alloc(kLargePage, (bytes + kLargePage - 1) / kLargePage * kLargePage)
+            : std::malloc(bytes);
+    void* first = memory;
+    if (memory && std::align(kLargePage, kLargePage, first, bytes))
+        ::madvise(first, bytes / kLargePage * kLargePage, MADV_HUGEPAGE);
+    return memory;
+}
+} // namespace
+
 char* take(std::size_t bytes)
 {
-    void* const memory = std::malloc(bytes);
+    void* const memory = bytes >= kLargePage ? take_large(bytes) : std::malloc(bytes);
     if (!memory)
         throw std::bad_alloc();
     return static_cast<char*>(memory);
 }
 
 void give_back(char* memory, std::size_t) noexcept { std::free(memory); }
-
-void expect_use(void* block, std::size_t size)
-{
-    constexpr std::size_t page = std::size_t{2} << 20;
-    if (std::align(page, page, block, size) != nullptr) // else it holds no whole one
-        ::madvise(block, size / page * page, MADV_HUGEPAGE);
-}
 } // namespace platform::memory

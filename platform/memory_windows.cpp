@@ -55,6 +55,7 @@ SpareBlocks& spare()
 }
 } // namespace
 
+// Large pages would need the right to lock memory, which users do not have.
 char* take(std::size_t bytes)
 {
     void* memory = bytes == kBlock ? spare().take() : nullptr;
@@ -70,7 +71,4 @@ void give_back(char* memory, std::size_t bytes) noexcept
     if (!memory || bytes != kBlock || !spare().keep(memory))
         std::free(memory);
 }
-
-// A program must ask for large pages by the right to lock memory, which users do not have.
-void expect_use(void*, std::size_t) {}
 } // namespace platform::memory

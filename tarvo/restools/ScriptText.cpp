@@ -1,9 +1,9 @@
 #include "tarvo/restools/ScriptText.h"
 
-#include "platform/memory.h"
 #include "tarvo/restools/ScriptBytes.h"
 
 #include <algorithm>
+#include <new>
 
 bool CScriptText::Open(CScriptBytes& bytes)
 {
@@ -13,11 +13,15 @@ bool CScriptText::Open(CScriptBytes& bytes)
     const bool isWide =
         encoding == TextEncoding::Utf16LittleEndian || encoding == TextEncoding::Utf16BigEndian;
     const auto size = static_cast<std::size_t>(bytes.GetLeft());
-    m_room = (isWide ? size / 2 : size) + CScriptMarks::Count; // no encoding gives more units
-    m_units.reset(static_cast<char16_t*>(std::malloc(m_room * sizeof(char16_t))));
-    if (!m_units)
+    m_room = (isWide ? size / 2 : size) + CScriptMarks::Block; // no encoding gives more units
+    try
+    {
+        m_memory = platform::memory::take_piece(m_room * sizeof(char16_t));
+    }
+    catch (const std::bad_alloc&)
+    {
         return false;
-    platform::memory::expect_use(m_units.get(), m_room * sizeof(char16_t));
+    }
     Grow(0);
     return true;
 }
@@ -26,12 +30,13 @@ bool CScriptText::Grow(std::size_t needed)
 {
     const std::string_view piece = m_bytes->Peek();
     std::string_view rest = piece;
-    const std::size_t count = DecodeTextPart(m_bytes->GetEncoding(), rest, m_units.get() + m_length);
+    auto* const units = reinterpret_cast<char16_t*>(m_memory.get());
+    const std::size_t count = DecodeTextPart(m_bytes->GetEncoding(), rest, units + m_length);
     // Without a unit, what is left is a character that the end of the file has cut off.
     m_bytes->Take(count == 0 ? piece.size() : piece.size() - rest.size());
     m_length += count;
-    std::fill_n(m_units.get() + m_length, CScriptMarks::Count, u'\0');
-    m_marks.Grow(m_units.get(), m_length, needed);
+    std::fill_n(units + m_length, CScriptMarks::Block, u'\0');
+    m_marks.Grow(units, m_length, needed);
     return count != 0;
 }
 

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "platform/memory.h"
 #include "tarvo/restools/ScriptMarks.h"
 
 #include <cstddef>
-#include <cstdlib>
-#include <memory>
 
 class CScriptBytes;
 
@@ -21,7 +20,7 @@ public:
     void Close();
 
     /// Behind the last unit there are some zeros.
-    const char16_t* Units() const { return m_units.get(); }
+    const char16_t* Units() const { return reinterpret_cast<const char16_t*>(m_memory.get()); }
     /// Units decoded.
     std::size_t GetLength() const { return m_length; }
     const CScriptMarks& Marks() const { return m_marks; }
@@ -29,12 +28,7 @@ public:
     std::size_t GetRoom() const { return m_room; }
 
 private:
-    struct Free
-    {
-        void operator()(char16_t* p) const { std::free(p); }
-    };
-
-    std::unique_ptr<char16_t[], Free> m_units;
+    platform::memory::Piece m_memory;
     std::size_t m_length = 0;
     std::size_t m_room = 0;
     CScriptMarks m_marks;

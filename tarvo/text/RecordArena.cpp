@@ -31,8 +31,7 @@ void CRecordArena::NextBlock(std::size_t least)
     const std::size_t usual =
         m_arrBlock.empty() ? kFirstBlock : std::min(2 * m_arrBlock.back().size, kMostBlock);
     const std::size_t size = std::max(usual, least);
-    std::unique_ptr<char, GiveBack> bytes(platform::memory::take(size), GiveBack{size});
-    m_arrBlock.push_back({std::move(bytes), size, 0});
+    m_arrBlock.push_back({platform::memory::take_piece(size), size, 0});
 }
 
 void CRecordArena::Clear()

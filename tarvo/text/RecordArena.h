@@ -52,14 +52,9 @@ public:
     void Trim();
 
 private:
-    struct GiveBack
-    {
-        std::size_t size;
-        void operator()(char* memory) const { platform::memory::give_back(memory, size); }
-    };
     struct Block
     {
-        std::unique_ptr<char, GiveBack> bytes;
+        platform::memory::Piece bytes;
         std::size_t size;
         std::size_t used;
     };
