@@ -29,34 +29,46 @@ void run_read(benchmark::State& state, const char* name)
     }
 }
 
-void run_compare(benchmark::State& state, const char* name1, const char* name2)
+/// Reads two scripts and writes a text about both, as the program does.
+template <class Write>
+void run_both(benchmark::State& state, const char* name1, const char* name2, Write write)
 {
     for (auto _ : state)
     {
         CResources one, two;
         read(one, name1);
         read(two, name2);
-        CString report;
-        CompareResources(one, two, report, StringCheck::Both);
-        benchmark::DoNotOptimize(report.GetLength());
+        CString text;
+        write(one, two, text);
+        benchmark::DoNotOptimize(text.GetLength());
     }
 }
 
-template <class Write>
-void run_list(benchmark::State& state, const char* name, Write write)
+void run_compare(benchmark::State& state, const char* name1, const char* name2)
+{
+    run_both(state, name1, name2, [](const CResources& one, const CResources& two, CString& text) {
+        CompareResources(one, two, text, StringCheck::Both);
+    });
+}
+
+void run_pairs(benchmark::State& state, const char* name)
+{
+    run_both(state, name, name, [](const CResources& one, const CResources& two, CString& text) {
+        WritePairs(one, two, text, false);
+    });
+}
+
+void run_tree(benchmark::State& state, const char* name)
 {
     CResources resources;
     read(resources, name);
     for (auto _ : state)
     {
         CString text;
-        write(resources, text);
+        WriteTree(resources, text, false);
         benchmark::DoNotOptimize(text.GetLength());
     }
 }
-
-void pairs_of(const CResources& resources, CString& text) { WritePairs(resources, resources, text, false); }
-void tree_of(const CResources& resources, CString& text) { WriteTree(resources, text, false); }
 
 void script_utf8(benchmark::State& state) { run_read(state, "script.utf8.rc"); }
 void script_utf16(benchmark::State& state) { run_read(state, "script.utf16.rc"); }
@@ -67,10 +79,10 @@ void script_numbers(benchmark::State& state) { run_read(state, "script.numbers.r
 void script_compare(benchmark::State& state) { run_compare(state, "script.utf8.rc", "script.edited.rc"); }
 void script_compare_half(benchmark::State& state) { run_compare(state, "script.half.rc", "script.half.rc"); }
 void script_compare_same(benchmark::State& state) { run_compare(state, "script.utf8.rc", "script.utf8.rc"); }
-void script_pairs(benchmark::State& state) { run_list(state, "script.utf8.rc", pairs_of); }
-void script_pairs_half(benchmark::State& state) { run_list(state, "script.half.rc", pairs_of); }
-void script_tree(benchmark::State& state) { run_list(state, "script.utf8.rc", tree_of); }
-void script_tree_half(benchmark::State& state) { run_list(state, "script.half.rc", tree_of); }
+void script_pairs(benchmark::State& state) { run_pairs(state, "script.utf8.rc"); }
+void script_pairs_half(benchmark::State& state) { run_pairs(state, "script.half.rc"); }
+void script_tree(benchmark::State& state) { run_tree(state, "script.utf8.rc"); }
+void script_tree_half(benchmark::State& state) { run_tree(state, "script.half.rc"); }
 
 void script_held(benchmark::State& state)
 {
