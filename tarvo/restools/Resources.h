@@ -2,11 +2,13 @@
 
 #include "tarvo/export.h"
 #include "tarvo/restools/NameIndex.h"
+#include "tarvo/restools/RecordPool.h"
 #include "tarvo/restools/ScriptText.h"
 #include "tarvo/text/TextArena.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -50,10 +52,10 @@ public:
         m_arr.push_back(std::move(item));
         m_index.Forget();
     }
-    /// Takes over \p items, which keep their memory, in place of those that are there.
-    void Assign(const std::vector<T>& items)
+    /// Copies \p items into \p pool in place of those that are there.
+    void Assign(const std::vector<T>& items, CRecordPool& pool)
     {
-        m_arr = items;
+        m_arr = Items(items.begin(), items.end(), CRecordAllocator<T>(&pool));
         m_index.Forget();
     }
     std::size_t GetCount() const { return m_arr.size(); }
@@ -82,7 +84,9 @@ private:
         return m_index;
     }
 
-    std::vector<T> m_arr;
+    using Items = std::vector<T, CRecordAllocator<T>>;
+
+    Items m_arr;
     mutable CNameIndex m_index;
 };
 
@@ -185,6 +189,7 @@ private:
                    CStringArray& arrLanguages);
 
     CScriptText m_text;
+    std::unique_ptr<CRecordPool> m_pool = std::make_unique<CRecordPool>(); ///< the dialogs' controls
     CTextArena m_keep; ///< what had to be put together: words with quotes replaced, styles without spaces
     CResBaseclass<CResMenu> m_menus;
     CResBaseclass<CResToolbar> m_toolbars;

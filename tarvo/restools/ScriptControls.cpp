@@ -22,12 +22,12 @@ struct Look
 {
     Look(const CScriptWords& words, std::size_t at)
     {
-        const CScriptMarks::Block block = words.Marks().At(at);
+        const CScriptMarks::Seen seen = words.Marks().At(at);
         const std::size_t left = words.End() - at;
         const std::uint64_t within = left < unitsSeen ? (std::uint64_t{1} << left) - 1 : ~std::uint64_t{0};
-        quotes = block.quotes & within;
-        commas = block.commas & within;
-        separators = block.separators | ~within;
+        quotes = seen.quotes & within;
+        commas = seen.commas & within;
+        separators = seen.separators | ~within;
     }
     std::uint64_t quotes;
     std::uint64_t commas;
@@ -48,7 +48,7 @@ bool FindSimpleText(const CScriptWords& words, CResDialogControl& control, std::
     const std::size_t keywordEnd = words.At() - words.Begin();
     const Look head(words, words.Begin());
     const std::size_t open = First(head.quotes | head.commas);
-    if (open == unitsSeen || keywordEnd > open || First(~head.separators & From(keywordEnd)) != open)
+    if (open >= unitsSeen || keywordEnd > open || First(~head.separators & From(keywordEnd)) != open)
         return false;
     const std::size_t begin = words.Begin() + open + 1;
     const Look inside(words, begin);
@@ -86,10 +86,10 @@ bool FindSimple(const CControlRule& rule, const CScriptWords& words, CResDialogC
         return false;
     const Look tail(words, at);
     const std::size_t first = First(~tail.separators);
-    if (first == unitsSeen)
+    if (first >= unitsSeen)
         return false;
     const std::size_t last = First((tail.separators | tail.quotes) & From(first));
-    if (last == unitsSeen || Has(tail.quotes, last))
+    if (last >= unitsSeen || Has(tail.quotes, last))
         return false;
     control.m_strID = {words.Text() + at + first, last - first};
     field = at;

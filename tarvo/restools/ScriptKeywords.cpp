@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 
 namespace
@@ -22,20 +23,33 @@ constexpr std::size_t longest = 13;
 // A place of its own for each keyword, found by trying factors.
 constexpr std::size_t PlaceOf(Word word) { return (word[0] + word[1] * 28u + word.size() * 2) % 64; }
 
-constexpr std::array<ScriptKeyword, 64> MakePlaces()
+/// A keyword, where a look-up finds all of it at once; in a place of none the size is 0.
+struct Place
 {
-    std::array<ScriptKeyword, 64> table = {};
+    char16_t units[longest];
+    std::uint8_t size;
+    ScriptKeyword keyword;
+};
+
+constexpr std::array<Place, 64> MakePlaces()
+{
+    std::array<Place, 64> table = {};
     for (std::size_t i = 1; i < words.size(); ++i)
-        table[PlaceOf(words[i])] = static_cast<ScriptKeyword>(i);
+    {
+        Place& place = table[PlaceOf(words[i])];
+        std::copy(words[i].begin(), words[i].end(), place.units);
+        place.size = static_cast<std::uint8_t>(words[i].size());
+        place.keyword = static_cast<ScriptKeyword>(i);
+    }
     return table;
 }
-constexpr std::array<ScriptKeyword, 64> places = MakePlaces();
+constexpr std::array<Place, 64> places = MakePlaces();
 
 constexpr bool AllHaveTheirPlace()
 {
     for (std::size_t i = 1; i < words.size(); ++i)
         if (words[i].size() < shortest || words[i].size() > longest ||
-            places[PlaceOf(words[i])] != static_cast<ScriptKeyword>(i))
+            places[PlaceOf(words[i])].keyword != static_cast<ScriptKeyword>(i))
             return false;
     return true;
 }
@@ -65,9 +79,7 @@ ScriptKeyword FindScriptKeyword(Word word)
 {
     if (word.size() < shortest || word.size() > longest)
         return ScriptKeyword::None;
-    const ScriptKeyword keyword = places[PlaceOf(word)];
-    const Word known = words[static_cast<std::size_t>(keyword)];
-    return known.size() == word.size() && AreEqual(word.data(), known.data(), known.size())
-               ? keyword
-               : ScriptKeyword::None;
+    const Place& place = places[PlaceOf(word)];
+    return place.size == word.size() && AreEqual(word.data(), place.units, place.size) ? place.keyword
+                                                                                       : ScriptKeyword::None;
 }

@@ -7,7 +7,7 @@
 // before the next of them. False at the end. Marks from \p needed on are kept.
 bool CScriptLines::NextLine(std::size_t needed)
 {
-    const auto breaks = [](const auto& block) { return block.breaks; };
+    const auto breaks = [](const auto& seen) { return seen.breaks; };
     const auto ahead = [this] { return m_text.GetLength() - m_end; };
     while (ahead() <= 2 && m_text.Grow(needed))
     {
@@ -44,7 +44,7 @@ bool CScriptLines::FindLine(std::size_t needed)
 // backslash alone; pairs of quotes change nothing.
 bool CScriptLines::EndsOutsideSpan(std::size_t begin, std::size_t end) const
 {
-    const auto quotes = [](const auto& block) { return block.quotes; };
+    const auto quotes = [](const auto& seen) { return seen.quotes; };
     bool isOutside = true;
     for (std::size_t at = begin; (at = m_text.Marks().Find(at, end, quotes)) != end; ++at)
     {

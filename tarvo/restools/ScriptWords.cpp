@@ -28,7 +28,7 @@ bool CScriptWords::FindWord(bool& isEmpty)
 {
     while (true)
     {
-        m_at = Place(m_marks->Find(m_at, m_end, [this](const auto& block) { return ~Separators(block); }));
+        m_at = Place(m_marks->Find(m_at, m_end, [this](const auto& seen) { return ~Separators(seen); }));
         if (m_at == m_end)
             return false;
         if (Text()[m_at] != u'"' || IsPair(m_at) || IsEscaped(m_at))
@@ -55,7 +55,7 @@ bool CScriptWords::Scan(Raw& raw)
         // Plain text ends at a quote, or outside of a span at a separator.
         const std::uint64_t outside = m_inSpan ? 0 : ~std::uint64_t{0};
         raw.last = at = m_marks->Find(
-            at, m_end, [=, this](const auto& block) { return block.quotes | (Separators(block) & outside); });
+            at, m_end, [=, this](const auto& seen) { return seen.quotes | (Separators(seen) & outside); });
         if (at == m_end)
             break;
         if (Text()[at] != u'"') // a separator
@@ -142,9 +142,9 @@ std::size_t CScriptWords::SkipPlain(std::size_t count)
 {
     if (m_inSpan || m_at >= m_end)
         return 0;
-    const CScriptMarks::Block block = m_marks->At(m_at);
+    const CScriptMarks::Seen seen = m_marks->At(m_at);
     const std::size_t left = m_end - m_at;
-    std::uint64_t separators = Separators(block), quotes = block.quotes;
+    std::uint64_t separators = Separators(seen), quotes = seen.quotes;
     if (left < CScriptMarks::Count) // a word ends at the line's end too
     {
         const std::uint64_t end = std::uint64_t{1} << left;
@@ -165,14 +165,14 @@ std::size_t CScriptWords::SkipPlain(std::size_t count)
 bool CScriptWords::IsAtEnd() const
 {
     // Nearly always there is a unit that can only be part of a word.
-    const auto letters = [](const auto& block) { return ~(block.separators | block.quotes); };
+    const auto letters = [](const auto& seen) { return ~(seen.separators | seen.quotes); };
     std::u16string_view word;
     return m_marks->Find(m_at, m_end, letters) == m_end && !CScriptWords(*this).Next(word);
 }
 
 std::u16string_view CScriptWords::FromQuote() const
 {
-    const std::size_t quote = m_marks->Find(m_begin, m_end, [](const auto& block) { return block.quotes; });
+    const std::size_t quote = m_marks->Find(m_begin, m_end, [](const auto& seen) { return seen.quotes; });
     return {Text() + quote, m_end - quote};
 }
 

@@ -83,9 +83,9 @@ private:
 
     bool IsPair(std::size_t quote) const { return quote + 1 < m_end && Text()[quote + 1] == u'"'; }
     bool IsEscaped(std::size_t quote) const { return quote != m_begin && Text()[quote - 1] == u'\\'; }
-    std::uint64_t Separators(const CScriptMarks::Block& block) const
+    std::uint64_t Separators(const CScriptMarks::Seen& seen) const
     {
-        return block.commas | (m_blanksSeparate ? block.separators : 0);
+        return m_blanksSeparate ? seen.separators : seen.commas;
     }
     inline bool NextSimple(std::u16string_view& word);
     bool NextOfAll(std::u16string_view& word);
@@ -111,10 +111,10 @@ inline bool CScriptWords::NextSimple(std::u16string_view& word)
     if (m_inSpan)
         return false;
     const std::size_t at = m_at;
-    const CScriptMarks::Block block = m_marks->At(at);
-    const std::uint64_t separators = Separators(block), quotes = block.quotes;
+    const CScriptMarks::Seen seen = m_marks->At(at);
+    const std::uint64_t separators = Separators(seen), quotes = seen.quotes;
     const std::size_t first = static_cast<std::size_t>(std::countr_zero(~separators));
-    if (first == CScriptMarks::Count)
+    if (first >= CScriptMarks::Count)
         return false;
     const std::uint64_t behind = ~std::uint64_t{1} << first; // the units behind the first one
     const bool isQuoted = (quotes >> first & 1) != 0;
@@ -132,7 +132,7 @@ inline bool CScriptWords::NextSimple(std::u16string_view& word)
         return true;
     }
     const std::uint64_t odd = (separators | quotes) >> 1 >> first | quotes >> 1 >> last;
-    if ((odd & 1) != 0 || last == CScriptMarks::Count - 1 || at + last >= m_end || text[last - 1] == u'\\' ||
+    if ((odd & 1) != 0 || last >= CScriptMarks::Count - 1 || at + last >= m_end || text[last - 1] == u'\\' ||
         IsEscaped(at + first))
         return false;
     word = {text + first + 1, last - first - 1};

@@ -2,8 +2,8 @@
 
 #include "tarvo/restools/ResourcePairs.h"
 #include "tarvo/restools/TextOut.h"
+#include "tarvo/text/RefTable.h"
 
-#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -33,9 +33,10 @@ class Section
 {
 public:
     /// At most \p most pairs.
-    Section(CResText head, std::size_t most) : m_head(head), m_slots(std::bit_ceil(most * 2 + 1), none)
+    Section(CResText head, std::size_t most) : m_head(head)
     {
         m_pairs.reserve(most);
+        m_table.Reset(most, static_cast<CRefTable::Ref>(most));
     }
 
     // The items of a resource and of the one with its name in the other script, paired by ID and rank.
@@ -81,29 +82,17 @@ private:
             return;
         const TextPair pair = {one.m_strID, one.m_strText, two->m_strText};
         const std::uint32_t hash = HashOf(pair);
-        std::uint64_t& slot = m_slots[SlotOf(pair, hash)];
-        if (slot != none)
+        const std::size_t slot =
+            m_table.Find(hash, [&](CRefTable::Ref position) { return m_pairs[position] == pair; });
+        if (!m_table.IsFree(slot))
             return;
-        slot = std::uint64_t{hash} << 32 | m_pairs.size();
+        m_table.Put(slot, hash, static_cast<CRefTable::Ref>(m_pairs.size()));
         m_pairs.push_back(pair);
     }
 
-    std::size_t SlotOf(const TextPair& pair, std::uint32_t hash) const
-    {
-        const std::size_t mask = m_slots.size() - 1;
-        std::size_t slot = hash & mask;
-        while (m_slots[slot] != none &&
-               (m_slots[slot] >> 32 != hash || !(m_pairs[static_cast<std::uint32_t>(m_slots[slot])] == pair)))
-            slot = (slot + 1) & mask;
-        return slot;
-    }
-
-    static constexpr std::uint64_t none = ~std::uint64_t{0};
-
     CResText m_head;
     std::vector<TextPair> m_pairs;
-    /// Open addressing: a pair's hash in the upper half, its position in the lower.
-    std::vector<std::uint64_t> m_slots;
+    CRefTable m_table; ///< their positions
 };
 
 template <class T, class IsWanted>
