@@ -7,6 +7,10 @@
 #include <cstring>
 #include <cwchar>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 static_assert(std::endian::native == std::endian::little, "the first unit stands in a word's lowest bits");
 
 namespace units

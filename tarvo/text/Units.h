@@ -10,10 +10,6 @@
 #include <memory>
 #include <string_view>
 
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#endif
-
 /// Stored text is UTF-16 units of 16 bits on every platform, half of what wide text takes natively. Here
 /// is what the readers of files need over such runs: four units are looked at in one step.
 namespace units
