@@ -11,7 +11,7 @@ set -euo pipefail
 
 wine=(g++-mingw-w64-x86-64-posix wine wine64 fonts-wine fonts-wqy-microhei fonts-dejavu-core locales)
 libraries=(libcli11-dev nlohmann-json3-dev)
-readers=(chromium python3-sarif-python-om) # of the reports that tarvo writes
+readers=(chromium python3-jsonschema) # of the reports that tarvo writes
 declare -A groups=(
   [build]="cmake ninja-build g++ ccache python3 ${libraries[*]}"
   [quick]="googletest ${readers[*]}"
