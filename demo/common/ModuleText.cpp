@@ -13,7 +13,7 @@ CString module_text(HINSTANCE module, const wchar_t* symbol, UINT id)
     if (XMultiLang* table = INIResourceManager::GetXMultiLang(project_name(module)))
     {
         // A key that is in no file answers with a text that says so; the resource's own text is better here.
-        const CString text = table->Lang(symbol, L"TEXT");
+        CString text = table->Lang(symbol, L"TEXT");
         if (text != L"CaNNot Find szLangKey To Ini File" && text != L"Can't load language file")
             return text;
     }
