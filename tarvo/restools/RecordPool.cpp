@@ -6,7 +6,7 @@
 namespace
 {
 constexpr std::size_t kLeast = std::size_t{4} << 10; ///< bytes of a block
-constexpr std::size_t kMost = std::size_t{4} << 20;
+constexpr std::size_t kMost = std::size_t{2} << 20;
 } // namespace
 
 void* CRecordPool::Take(std::size_t bytes)
