@@ -17,7 +17,6 @@ void CRefTable::Reset(std::size_t count, Ref most)
         Clear();
     else
         std::vector<Slot>(slots).swap(m_arrSlot);
-    m_nGroups = groups;
     m_nRoom = slots * 4 / 5;
     const auto bits = static_cast<unsigned>(std::bit_width(std::uint64_t{most} + 1)) + 1;
     m_nRefBits = std::clamp(bits, kLeastRefBits, 32u);

@@ -105,10 +105,12 @@ private:
     Slot TagMask() const { return static_cast<Slot>(~std::uint64_t{0} << m_nRefBits); }
     Slot TagOf(std::uint32_t hash) const { return static_cast<Slot>(std::uint64_t{hash} << m_nRefBits); }
     /// The first slot of the group where a record belongs; when that is full, it is in the next one.
-    std::size_t HomeOf(std::uint32_t hash) const { return (std::uint64_t{hash} * m_nGroups >> 32) * kGroup; }
+    std::size_t HomeOf(std::uint32_t hash) const
+    {
+        return (std::uint64_t{hash} * (m_arrSlot.size() / kGroup) >> 32) * kGroup;
+    }
 
     std::vector<Slot> m_arrSlot;
-    std::size_t m_nGroups = 0; ///< of m_arrSlot
-    std::size_t m_nRoom = 0;   ///< records that there is room for
+    std::size_t m_nRoom = 0; ///< records that there is room for
     unsigned m_nRefBits = 0;
 };
