@@ -64,7 +64,7 @@ Words ByTheRules(std::u16string_view line, std::u16string_view separators)
 
 Words ByTheWalker(std::u16string_view line, WordSeparators separators)
 {
-    CTextArena keep;
+    CScriptArena keep;
     const CScriptMarks marks(line);
     CScriptWords walker(marks, 0, line.size(), keep);
     walker.EndWordsAt(separators);

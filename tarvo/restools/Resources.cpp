@@ -80,7 +80,7 @@ bool CResources::ReadBytes(CScriptBytes& bytes, CString& strLog, const wchar_t* 
 
 std::size_t CResources::MemoryBytes() const
 {
-    return m_text.GetRoom() * sizeof(char16_t) + m_keep.GetSize() * sizeof(char16_t) + m_pool->GetMemory() +
-           NestedBytes(m_menus) + NestedBytes(m_toolbars) + m_dialogs.GetMemory() + m_strings.GetMemory() +
-           m_bitmaps.GetMemory() + m_pngs.GetMemory() + m_icons.GetMemory() + m_cursors.GetMemory();
+    return m_text.GetRoom() * sizeof(char16_t) + m_keep->GetMemory() + NestedBytes(m_menus) +
+           NestedBytes(m_toolbars) + m_dialogs.GetMemory() + m_strings.GetMemory() + m_bitmaps.GetMemory() +
+           m_pngs.GetMemory() + m_icons.GetMemory() + m_cursors.GetMemory();
 }

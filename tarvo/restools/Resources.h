@@ -2,9 +2,8 @@
 
 #include "tarvo/export.h"
 #include "tarvo/restools/NameIndex.h"
-#include "tarvo/restools/RecordPool.h"
+#include "tarvo/restools/ScriptArena.h"
 #include "tarvo/restools/ScriptText.h"
-#include "tarvo/text/TextArena.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -52,10 +51,10 @@ public:
         m_arr.push_back(std::move(item));
         m_index.Forget();
     }
-    /// Copies \p items into \p pool in place of those that are there.
-    void Assign(const std::vector<T>& items, CRecordPool& pool)
+    /// Copies \p items into \p arena in place of those that are there.
+    void Assign(const std::vector<T>& items, CScriptArena& arena)
     {
-        m_arr = Items(items.begin(), items.end(), CRecordAllocator<T>(&pool));
+        m_arr = Items(items.begin(), items.end(), CScriptAllocator<T>(&arena));
         m_index.Forget();
     }
     std::size_t GetCount() const { return m_arr.size(); }
@@ -84,7 +83,7 @@ private:
         return m_index;
     }
 
-    using Items = std::vector<T, CRecordAllocator<T>>;
+    using Items = std::vector<T, CScriptAllocator<T>>;
 
     Items m_arr;
     mutable CNameIndex m_index;
@@ -189,8 +188,9 @@ private:
                    CStringArray& arrLanguages);
 
     CScriptText m_text;
-    std::unique_ptr<CRecordPool> m_pool = std::make_unique<CRecordPool>(); ///< the dialogs' controls
-    CTextArena m_keep; ///< what had to be put together: words with quotes replaced, styles without spaces
+    /// The dialogs' controls, and what had to be put together: words with quotes replaced, styles without
+    /// spaces.
+    std::unique_ptr<CScriptArena> m_keep = std::make_unique<CScriptArena>();
     CResBaseclass<CResMenu> m_menus;
     CResBaseclass<CResToolbar> m_toolbars;
     CResBaseclass<CResDialog> m_dialogs;

@@ -94,7 +94,7 @@ void CScriptReader::ReadDialogBody(CResDialog& dialog)
             Log(u"Strange dialog line: ", line.words.Line());
         m_lines.Take();
     }
-    dialog.m_items.Assign(m_controls, *m_resources.m_pool);
+    dialog.m_items.Assign(m_controls, Keep());
 }
 
 void CScriptReader::ReadControl()

@@ -23,7 +23,7 @@ inline bool IsScriptBreak(char16_t c) { return c == u'\n' || c == u'\r'; }
 class CScriptLines
 {
 public:
-    CScriptLines(CScriptText& text, CTextArena& keep) : m_text(text), m_keep(keep) {}
+    CScriptLines(CScriptText& text, CScriptArena& keep) : m_text(text), m_keep(keep) {}
 
     /// True while there is a line; At is that line until Take.
     bool Peek() { return m_hasLine || FindLine(m_end); }
@@ -41,7 +41,7 @@ private:
     bool EndsOutsideSpan(std::size_t begin, std::size_t end) const;
 
     CScriptText& m_text;
-    CTextArena& m_keep;
+    CScriptArena& m_keep;
     CScriptLine m_lines[2];    ///< the line at hand and the statement before it
     std::size_t m_current = 0; ///< which one the line is
     std::size_t m_begin = 0;   ///< where the line last found begins

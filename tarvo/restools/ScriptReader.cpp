@@ -10,7 +10,7 @@
 CScriptReader::CScriptReader(CResources& resources, std::u16string& log, bool all,
                              std::function<bool(std::u16string_view)> isWanted)
     : m_resources(resources), m_log(log), m_isWanted(std::move(isWanted)),
-      m_lines(resources.m_text, resources.m_keep), m_wanted(all)
+      m_lines(resources.m_text, *resources.m_keep), m_wanted(all)
 {
 }
 

@@ -38,7 +38,7 @@ private:
     void ReadDialogBody(CResDialog& dialog);
     void ReadControl();
 
-    CTextArena& Keep() { return m_resources.m_keep; }
+    CScriptArena& Keep() { return *m_resources.m_keep; }
     bool SkipToBegin();
     CResText WithoutSpaces(CResText text);
     CResText Numbered(std::u16string_view prefix, unsigned number);

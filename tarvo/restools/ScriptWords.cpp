@@ -178,7 +178,7 @@ std::u16string_view CScriptWords::FromQuote() const
 
 std::u16string ScriptWord(std::u16string_view line, std::size_t number, WordSeparators separators)
 {
-    CTextArena keep;
+    CScriptArena keep;
     const CScriptMarks marks(line);
     CScriptWords words(marks, 0, line.size(), keep);
     words.EndWordsAt(separators);

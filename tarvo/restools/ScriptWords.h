@@ -1,8 +1,8 @@
 #pragma once
 
 #include "tarvo/export.h"
+#include "tarvo/restools/ScriptArena.h"
 #include "tarvo/restools/ScriptMarks.h"
-#include "tarvo/text/TextArena.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -33,7 +33,7 @@ public:
     CScriptWords() = default;
     /// The words of the units from \p begin to \p end of the text that has these marks. Where they say that
     /// its breaks separate, a break stands for a blank.
-    CScriptWords(const CScriptMarks& marks, std::size_t begin, std::size_t end, CTextArena& keep)
+    CScriptWords(const CScriptMarks& marks, std::size_t begin, std::size_t end, CScriptArena& keep)
         : m_marks(&marks), m_keep(&keep), m_begin(static_cast<std::uint32_t>(begin)), m_at(m_begin),
           m_end(static_cast<std::uint32_t>(end))
     {
@@ -95,7 +95,7 @@ private:
     std::u16string_view Compose(const Raw& raw);
 
     const CScriptMarks* m_marks = nullptr;
-    CTextArena* m_keep = nullptr;
+    CScriptArena* m_keep = nullptr;
     std::uint32_t m_begin = 0; // of a script's 64 Mi units at most
     std::uint32_t m_at = 0;
     std::uint32_t m_end = 0;

@@ -11,7 +11,7 @@ using Words = std::vector<std::string>;
 Words WordsOf(const std::string& line, WordSeparators separators)
 {
     const std::u16string text = Utf16(line);
-    CTextArena keep;
+    CScriptArena keep;
     const CScriptMarks marks(text);
     CScriptWords walker(marks, 0, text.size(), keep);
     walker.EndWordsAt(separators);
@@ -117,7 +117,7 @@ TEST(ScriptWords, AreEmptyPastTheLast)
 TEST(ScriptWords, CanBePassedOverAndEndElsewhereFromThereOn)
 {
     const std::u16string line = u"MENUITEM \"a, b\" 101 GRAYED, INACTIVE";
-    CTextArena keep;
+    CScriptArena keep;
     const CScriptMarks marks(line);
     CScriptWords words(marks, 0, line.size(), keep);
     words.Skip(2);
@@ -132,13 +132,13 @@ TEST(ScriptWords, CanBePassedOverAndEndElsewhereFromThereOn)
 TEST(ScriptWords, AreViewsIntoTheLineWhereNothingHadToChange)
 {
     const std::u16string line = u"LTEXT \"Name\",ID";
-    CTextArena keep;
+    CScriptArena keep;
     const CScriptMarks marks(line);
     CScriptWords words(marks, 0, line.size(), keep);
     EXPECT_EQ(words.Next().data(), line.data());
     EXPECT_EQ(words.Next().data(), line.data() + 7);
     EXPECT_EQ(words.Next().data(), line.data() + 13);
-    EXPECT_EQ(keep.GetSize(), 0u);
+    EXPECT_EQ(keep.GetMemory(), 0u);
 }
 
 TEST(ScriptWords, AreTheSameWhereverTheyStandAndHoweverLongTheyAre)
@@ -160,7 +160,7 @@ TEST(ScriptWords, StandAlsoInTheMiddleOfAText)
 {
     const std::u16string text = u"\"LTEXT \"a, b\",ID\",";
     const CScriptMarks marks(text);
-    CTextArena keep;
+    CScriptArena keep;
     CScriptWords words(marks, 1, text.size() - 2, keep);
     EXPECT_EQ(words.Next(), u"LTEXT");
     EXPECT_EQ(words.Next(), u"a, b");
@@ -174,7 +174,7 @@ TEST(ScriptWords, TellWhetherOneFollows)
     const auto isAtEnd = [](const std::string& line, std::size_t count) {
         const std::u16string text = Utf16(line);
         const CScriptMarks marks(text);
-        CTextArena keep;
+        CScriptArena keep;
         CScriptWords words(marks, 0, text.size(), keep);
         words.Skip(count);
         return words.IsAtEnd();
