@@ -58,15 +58,17 @@ std::size_t CMessageStore::BytesOf(const Record& record)
 }
 
 template <class Key>
-std::size_t CMessageStore::SlotOf(const Key& key, std::uint32_t hash) const
+bool CMessageStore::HasKey(const Record& record, const Key& key)
 {
-    return m_table.Find(hash, [&](Ref ref) {
-        // The rest of a record comes from memory together with its front.
-        const Record& record = At(ref);
-        __builtin_prefetch(record.Units() + 32);
-        __builtin_prefetch(record.Units() + 64);
-        return units::equal(record.Key(), key);
-    });
+    // The rest of a record comes from memory together with its front.
+    __builtin_prefetch(record.Units() + 32);
+    __builtin_prefetch(record.Units() + 64);
+    return units::equal(record.Key(), key);
+}
+
+std::size_t CMessageStore::SlotOf(units::view key, std::uint32_t hash) const
+{
+    return m_table.Find(hash, [&](Ref ref) { return HasKey(At(ref), key); });
 }
 
 std::uint32_t CMessageStore::Announce(units::view key) const
@@ -111,10 +113,14 @@ std::optional<units::view> CMessageStore::FindKey(const Key& key) const
 {
     if (m_nCount == 0)
         return std::nullopt;
-    const std::size_t slot = SlotOf(key, units::hash(key));
-    if (m_table.IsFree(slot))
-        return std::nullopt;
-    return At(m_table.At(slot)).Value();
+    const Record* found = nullptr;
+    m_table.Find(units::hash(key), [&](Ref ref) {
+        const Record& record = At(ref);
+        if (HasKey(record, key))
+            found = &record;
+        return found != nullptr;
+    });
+    return found ? std::optional(found->Value()) : std::nullopt;
 }
 
 std::optional<units::view> CMessageStore::Find(units::view key) const { return FindKey(key); }

@@ -69,8 +69,9 @@ private:
     static std::size_t BytesOf(const Record& record);
     Record& At(Ref ref) const { return *reinterpret_cast<Record*>(m_records.At(ref)); }
     /// The slot of \p key, or the free one where it belongs.
+    std::size_t SlotOf(units::view key, std::uint32_t hash) const;
     template <class Key>
-    std::size_t SlotOf(const Key& key, std::uint32_t hash) const;
+    static bool HasKey(const Record& record, const Key& key);
     template <class Key>
     std::optional<units::view> FindKey(const Key& key) const;
     void Add(std::size_t slot, std::uint32_t hash, units::view key, units::view value);

@@ -11,13 +11,12 @@ constexpr unsigned kLeastRefBits = 22;
 
 void CRefTable::Reset(std::size_t count, Ref most)
 {
-    const std::size_t groups = (std::max<std::size_t>(count, 12) * 5 / 4) / kGroup + 1;
-    const std::size_t slots = groups * kGroup;
-    if (slots == m_arrSlot.size())
+    const std::size_t groups = std::max<std::size_t>(count, 12) * 5 / 4 / kGroup + 1;
+    if (groups == m_arrGroup.size())
         Clear();
     else
-        std::vector<Slot>(slots).swap(m_arrSlot);
-    m_nRoom = slots * 4 / 5;
+        std::vector<CSlotGroup>(groups).swap(m_arrGroup);
+    m_nRoom = groups * kGroup * 4 / 5;
     const auto bits = static_cast<unsigned>(std::bit_width(std::uint64_t{most} + 1)) + 1;
     m_nRefBits = std::clamp(bits, kLeastRefBits, 32u);
 }
