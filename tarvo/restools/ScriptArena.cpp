@@ -16,7 +16,7 @@ void* CScriptArena::Take(std::size_t bytes, std::size_t alignment)
         m_nUsed = at + bytes;
         return m_arrBlock.back().get() + at;
     }
-    const std::size_t size = std::max(bytes, std::clamp(m_nMemory, kLeast, kMost));
+    const std::size_t size = std::max(bytes, std::clamp(m_nMemory / 2, kLeast, kMost));
     m_arrBlock.push_back(platform::memory::take_piece(size));
     m_nBlock = size;
     m_nUsed = bytes;
