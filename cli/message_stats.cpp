@@ -39,8 +39,8 @@ struct Language
 struct Stats
 {
     std::vector<File> files;
-    std::deque<Language> languages;        ///< in the order in which they first occur
-    std::vector<units::view> partial_keys; ///< that some language lacks, in ordinal order
+    std::deque<Language> languages;           ///< in the order in which they first occur
+    std::vector<std::u16string> partial_keys; ///< that some language lacks, in ordinal order
 };
 
 /// The language's suffix before the last dot of a file's name; a file without one is its own language.
@@ -65,13 +65,13 @@ Language& language(std::deque<Language>& all, const std::string& name)
     return all.back();
 }
 
-std::vector<units::view> partial_keys(const std::deque<Language>& languages)
+std::vector<std::u16string> partial_keys(const std::deque<Language>& languages)
 {
-    std::map<units::view, std::size_t> found;
+    std::map<std::u16string, std::size_t> found;
     for (const Language& language : languages)
         for (const CMessageStore::Message& message : language.messages.Sorted())
             ++found[message.key];
-    std::vector<units::view> keys;
+    std::vector<std::u16string> keys;
     for (const auto& [key, count] : found)
         if (count < languages.size())
             keys.push_back(key);
@@ -128,7 +128,7 @@ std::string text_of(const Stats& stats)
         text += "language " + language.name + number("files", language.files) +
                 number("keys", language.keys()) + number("duplicates", language.entries - language.keys()) +
                 "\n";
-    for (const units::view key : stats.partial_keys)
+    for (const std::u16string& key : stats.partial_keys)
         text += "partial " + to_utf8(view(units::to_string(key))) + " in" +
                 joined(names(stats.languages, key, true)) + " missing" +
                 joined(names(stats.languages, key, false)) + "\n";
@@ -166,7 +166,7 @@ std::string json_of(const Stats& stats)
         json.end_object();
     }
     json.end_array().key("partial").begin_array();
-    for (const units::view key : stats.partial_keys)
+    for (const std::u16string& key : stats.partial_keys)
     {
         json.begin_object().key("key").text(view(units::to_string(key)));
         list("in", names(stats.languages, key, true));

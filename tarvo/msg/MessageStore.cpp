@@ -1,6 +1,7 @@
 #include "tarvo/msg/MessageStore.h"
 
 #include <algorithm>
+#include <cstring>
 #include <new>
 #include <utility>
 
@@ -16,10 +17,11 @@ void CMessageStore::ForEach(Visit visit) const
         for (const char* at = first; at != last;)
         {
             const Record& record = *reinterpret_cast<const Record*>(at);
-            if (!(record.keyLength & kReplaced))
+            if (!(record.isReplaced))
                 visit(record, ref);
-            at += BytesOf(record);
-            ref += static_cast<Ref>(BytesOf(record) / CRecordArena::kGrain);
+            const std::size_t size = record.GetSize();
+            at += size;
+            ref += static_cast<Ref>(size / CRecordArena::kGrain);
         }
     });
 }
@@ -27,8 +29,7 @@ void CMessageStore::ForEach(Visit visit) const
 CMessageStore& CMessageStore::operator=(const CMessageStore& source)
 {
     CMessageStore copy;
-    source.ForEach(
-        [&copy](const Record& record, Ref) { copy.Append(record.hash, record.Key(), record.Value()); });
+    source.ForEach([&copy](const Record& record, Ref) { copy.Append(record); });
     copy.m_nCount = source.m_nCount;
     if (copy.m_nCount != 0)
         copy.Index(copy.m_nCount);
@@ -47,28 +48,40 @@ void CMessageStore::Swap(CMessageStore& other) noexcept
 
 std::size_t CMessageStore::GetMemory() const { return m_records.GetMemory() + m_table.GetMemory(); }
 
-std::size_t CMessageStore::BytesOf(std::size_t units)
+std::size_t CMessageStore::Record::GetSize() const
 {
-    return CRecordArena::RoundUp(sizeof(Record) + units * sizeof(char16_t));
+    return CRecordArena::RoundUp(sizeof(Record) + GetKeySize() + std::size_t{valueLength} * sizeof(char16_t));
 }
 
-std::size_t CMessageStore::BytesOf(const Record& record)
+std::u16string CMessageStore::Record::Key() const
 {
-    return BytesOf(std::size_t{record.keyLength & ~kReplaced} + record.valueLength);
+    return isNarrow ? std::u16string(Bytes(), Bytes() + keyLength) : std::u16string(Units(), keyLength);
 }
 
-template <class Key>
-bool CMessageStore::HasKey(const Record& record, const Key& key)
+template <class Char>
+bool CMessageStore::Record::HasKey(const std::basic_string_view<Char>& key) const
 {
     // The rest of a record comes from memory together with its front.
-    __builtin_prefetch(record.Units() + 32);
-    __builtin_prefetch(record.Units() + 64);
-    return units::equal(record.Key(), key);
+    __builtin_prefetch(Units() + 32);
+    __builtin_prefetch(Units() + 64);
+    return keyLength == key.size() && (isNarrow ? units::same(Bytes(), key.data(), keyLength)
+                                                : units::same(Units(), key.data(), keyLength));
 }
+
+void CMessageStore::Record::Write(units::view key, units::view value)
+{
+    if (isNarrow)
+        units::to_bytes(key.data(), key.size(), reinterpret_cast<std::uint8_t*>(Room()));
+    else
+        units::copy(key, Room());
+    SetValue(value);
+}
+
+void CMessageStore::Record::SetValue(units::view value) { units::copy(value, Room() + GetKeySize() / 2); }
 
 std::size_t CMessageStore::SlotOf(units::view key, std::uint32_t hash) const
 {
-    return m_table.Find(hash, [&](Ref ref) { return HasKey(At(ref), key); });
+    return m_table.Find(hash, [&](Ref ref) { return At(ref).HasKey(key); });
 }
 
 std::uint32_t CMessageStore::Announce(units::view key) const
@@ -97,26 +110,23 @@ void CMessageStore::Set(units::view key, units::view value)
         return Add(slot, hash, key, value);
     Record& old = At(m_table.At(slot));
     if (value.size() == old.valueLength)
-    {
-        std::copy(value.begin(), value.end(), old.Units() + old.keyLength);
-        return;
-    }
+        return old.SetValue(value);
     const Ref ref = Append(hash, key, value);
-    m_nDead += BytesOf(old);
-    old.keyLength |= kReplaced;
+    m_nDead += old.GetSize();
+    old.isReplaced = 1;
     Place(slot, hash, ref);
     Tidy();
 }
 
-template <class Key>
-std::optional<units::view> CMessageStore::FindKey(const Key& key) const
+template <class Char>
+std::optional<units::view> CMessageStore::FindKey(const std::basic_string_view<Char>& key) const
 {
     if (m_nCount == 0)
         return std::nullopt;
     const Record* found = nullptr;
     m_table.Find(units::hash(key), [&](Ref ref) {
         const Record& record = At(ref);
-        if (HasKey(record, key))
+        if (record.HasKey(key))
             found = &record;
         return found != nullptr;
     });
@@ -152,13 +162,24 @@ void CMessageStore::Place(std::size_t slot, std::uint32_t hash, Ref ref)
 
 CMessageStore::Ref CMessageStore::Append(std::uint32_t hash, units::view key, units::view value)
 {
-    const std::size_t bytes = BytesOf(key.size() + value.size());
+    const Record front = {.hash = hash,
+                          .keyLength = static_cast<std::uint32_t>(key.size()),
+                          .isNarrow = units::are_bytes(key),
+                          .isReplaced = 0,
+                          .valueLength = static_cast<std::uint32_t>(value.size())};
     Ref ref = 0;
-    auto* const record = new (m_records.Take(bytes, ref))
-        Record{hash, static_cast<std::uint32_t>(key.size()), static_cast<std::uint32_t>(value.size())};
-    std::copy(value.begin(), value.end(), std::copy(key.begin(), key.end(), record->Units()));
-    m_nUsed += bytes;
+    const std::size_t size = front.GetSize();
+    (new (m_records.Take(size, ref)) Record(front))->Write(key, value);
+    m_nUsed += size;
     return ref;
+}
+
+void CMessageStore::Append(const Record& record)
+{
+    Ref ref = 0;
+    const std::size_t size = record.GetSize();
+    std::memcpy(m_records.Take(size, ref), &record, size);
+    m_nUsed += size;
 }
 
 void CMessageStore::MakeRoom()

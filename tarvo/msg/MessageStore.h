@@ -8,17 +8,20 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 /// Message texts by key, compared exactly. A record holds key and text side by side in a few large blocks
 /// and is found through one table of hashes, so that a look-up touches two places in memory, filling takes
-/// no allocation for each message, and emptying gives everything back.
+/// no allocation for each message, and emptying gives everything back. Keys are names, which hardly ever have
+/// a unit above 255: they are kept as bytes where they can be.
 class TARVO_API CMessageStore
 {
 public:
     struct Message
     {
-        units::view key;
+        std::u16string key;
         units::view value;
     };
 
@@ -50,33 +53,42 @@ public:
     void Trim();
 
 private:
-    /// Stands before the units of key and value. The records of a block can be walked over.
+    /// Stands before key and value. The records of a block can be walked over.
     struct Record
     {
         std::uint32_t hash; ///< of the key
-        std::uint32_t keyLength;
+        std::uint32_t keyLength : 30;
+        std::uint32_t isNarrow : 1;   ///< the key is bytes
+        std::uint32_t isReplaced : 1; ///< another record has the key now
         std::uint32_t valueLength;
 
-        char16_t* Units() const { return reinterpret_cast<char16_t*>(const_cast<Record*>(this) + 1); }
-        units::view Key() const { return {Units(), keyLength}; }
-        units::view Value() const { return {Units() + keyLength, valueLength}; }
+        /// Of the whole record.
+        std::size_t GetSize() const;
+        /// Of the key; the units of the value begin behind them.
+        std::size_t GetKeySize() const { return isNarrow ? (keyLength + 1) / 2 * 2 : keyLength * 2; }
+        const std::uint8_t* Bytes() const { return reinterpret_cast<const std::uint8_t*>(this + 1); }
+        const char16_t* Units() const { return reinterpret_cast<const char16_t*>(this + 1); }
+        units::view Value() const { return {Units() + GetKeySize() / 2, valueLength}; }
+        std::u16string Key() const;
+        template <class Char>
+        bool HasKey(const std::basic_string_view<Char>& key) const;
+        void Write(units::view key, units::view value);
+        void SetValue(units::view value);
+
+    private:
+        char16_t* Room() { return reinterpret_cast<char16_t*>(this + 1); }
     };
     using Ref = CRecordArena::Ref;
 
-    static constexpr std::uint32_t kReplaced = 1u << 31; ///< in a keyLength: another record has the key now
-
-    static std::size_t BytesOf(std::size_t units);
-    static std::size_t BytesOf(const Record& record);
     Record& At(Ref ref) const { return *reinterpret_cast<Record*>(m_records.At(ref)); }
     /// The slot of \p key, or the free one where it belongs.
     std::size_t SlotOf(units::view key, std::uint32_t hash) const;
-    template <class Key>
-    static bool HasKey(const Record& record, const Key& key);
-    template <class Key>
-    std::optional<units::view> FindKey(const Key& key) const;
+    template <class Char>
+    std::optional<units::view> FindKey(const std::basic_string_view<Char>& key) const;
     void Add(std::size_t slot, std::uint32_t hash, units::view key, units::view value);
     void Place(std::size_t slot, std::uint32_t hash, Ref ref);
     Ref Append(std::uint32_t hash, units::view key, units::view value);
+    void Append(const Record& record);
     void MakeRoom();
     void Index(std::size_t count);
     void Tidy();

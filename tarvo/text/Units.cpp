@@ -175,32 +175,50 @@ void copy_eight(const char16_t* from, wchar_t* to)
     _mm_storeu_si128(p, _mm_unpacklo_epi16(units, _mm_setzero_si128()));
     _mm_storeu_si128(p + 1, _mm_unpackhi_epi16(units, _mm_setzero_si128()));
 }
-/// The bits of the eight that are the same are set.
-__m128i same_eight(const char16_t* units, const wchar_t* text)
+void copy_eight(const char16_t* from, std::uint8_t* to)
 {
-    const __m128i eight = _mm_loadu_si128(reinterpret_cast<const __m128i*>(units));
+    const __m128i units = _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
+    _mm_storel_epi64(reinterpret_cast<__m128i*>(to), _mm_packus_epi16(units, units));
+}
+
+__m128i eight(const char16_t* units) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(units)); }
+__m128i eight(const std::uint8_t* bytes)
+{
+    return _mm_unpacklo_epi8(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(bytes)), _mm_setzero_si128());
+}
+/// The bits of the eight that are the same are set.
+template <class Char>
+__m128i same_eight(__m128i units, const Char* text)
+{
     const auto* const p = reinterpret_cast<const __m128i*>(text);
-    const __m128i low = _mm_cmpeq_epi32(_mm_unpacklo_epi16(eight, _mm_setzero_si128()), _mm_loadu_si128(p));
+    if constexpr (sizeof(Char) == sizeof(char16_t))
+        return _mm_cmpeq_epi16(units, _mm_loadu_si128(p));
+    const __m128i low = _mm_cmpeq_epi32(_mm_unpacklo_epi16(units, _mm_setzero_si128()), _mm_loadu_si128(p));
     const __m128i high =
-        _mm_cmpeq_epi32(_mm_unpackhi_epi16(eight, _mm_setzero_si128()), _mm_loadu_si128(p + 1));
+        _mm_cmpeq_epi32(_mm_unpackhi_epi16(units, _mm_setzero_si128()), _mm_loadu_si128(p + 1));
     return _mm_and_si128(low, high);
 }
-bool same_units(const char16_t* units, const wchar_t* text, std::size_t count)
+template <class Kept, class Char>
+bool same_steps(const Kept* units, const Char* text, std::size_t count)
 {
-    __m128i all = same_eight(units + count - 8, text + count - 8); // overlaps the last step
+    __m128i all = same_eight(eight(units + count - 8), text + count - 8); // overlaps the last step
     for (std::size_t i = 0; i + 8 < count; i += 8)
-        all = _mm_and_si128(all, same_eight(units + i, text + i));
+        all = _mm_and_si128(all, same_eight(eight(units + i), text + i));
     return _mm_movemask_epi8(all) == 0xFFFF;
+}
+
+bool are_bytes_steps(const char16_t* units, std::size_t count)
+{
+    __m128i all = eight(units + count - 8);
+    for (std::size_t i = 0; i + 8 < count; i += 8)
+        all = _mm_or_si128(all, eight(units + i));
+    return _mm_movemask_epi8(_mm_cmpeq_epi16(_mm_srli_epi16(all, 8), _mm_setzero_si128())) == 0xFFFF;
 }
 #else
 template <class From, class To>
 void copy_eight(const From* from, To* to)
 {
     std::copy_n(from, 8, to);
-}
-bool same_units(const char16_t* units, const wchar_t* text, std::size_t count)
-{
-    return std::equal(text, text + count, units);
 }
 #endif
 
@@ -228,19 +246,48 @@ void copy_units(const From* from, std::size_t count, To* to)
         }
     }
 }
+
+template <class Kept, class Char>
+bool same_units(const Kept* units, const Char* text, std::size_t count)
+{
+#if defined(__SSE2__)
+    if (count >= 8)
+        return same_steps(units, text, count);
+#endif
+    return std::equal(text, text + count, units, [](Char a, Kept b) { return a == static_cast<Char>(b); });
+}
 } // namespace
 
 bool equal_no_case(view a, view b) { return equal_folded(a, b); }
 bool equal_no_case(view a, asked b) { return equal_folded(a, b); }
 
-bool same(const char16_t* units, const wchar_t* text, std::size_t count)
+bool same(const char16_t* units, const char16_t* text, std::size_t count)
 {
-    if constexpr (sizeof(wchar_t) == sizeof(char16_t))
-        return count == 0 || std::memcmp(units, text, count * sizeof(char16_t)) == 0;
-    if (count < 8)
-        return std::equal(text, text + count, units, [](wchar_t a, char16_t b) { return a == wchar_t{b}; });
     return same_units(units, text, count);
 }
+bool same(const char16_t* units, const wchar_t* text, std::size_t count)
+{
+    return same_units(units, text, count);
+}
+bool same(const std::uint8_t* units, const char16_t* text, std::size_t count)
+{
+    return same_units(units, text, count);
+}
+bool same(const std::uint8_t* units, const wchar_t* text, std::size_t count)
+{
+    return same_units(units, text, count);
+}
+
+bool are_bytes(view text)
+{
+#if defined(__SSE2__)
+    if (text.size() >= 8)
+        return are_bytes_steps(text.data(), text.size());
+#endif
+    return std::all_of(text.begin(), text.end(), [](char16_t unit) { return unit < 256; });
+}
+
+void to_bytes(const char16_t* text, std::size_t count, std::uint8_t* out) { copy_units(text, count, out); }
 
 CString to_string(view text)
 {

@@ -92,8 +92,11 @@ inline bool equal(const view& a, const view& b)
     return a.size() == b.size() &&
            (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0);
 }
-/// Whether \p count units at \p units are these wide characters.
+/// Whether \p count units, kept as such or as bytes, are these characters.
+TARVO_API bool same(const char16_t* units, const char16_t* text, std::size_t count);
 TARVO_API bool same(const char16_t* units, const wchar_t* text, std::size_t count);
+TARVO_API bool same(const std::uint8_t* units, const char16_t* text, std::size_t count);
+TARVO_API bool same(const std::uint8_t* units, const wchar_t* text, std::size_t count);
 inline bool equal(const view& a, const asked& b)
 {
     return a.size() == b.size() && same(a.data(), b.data(), b.size());
@@ -158,6 +161,9 @@ TARVO_API CString to_string(view text);
 TARVO_API void widen(const char16_t* text, std::size_t count, wchar_t* out);
 /// Puts \p count wide characters (each one unit) at \p out.
 TARVO_API void narrow(const wchar_t* text, std::size_t count, char16_t* out);
+/// Whether all units are below 256. Then to_bytes puts \p count of them at \p out, a byte for each.
+TARVO_API bool are_bytes(view text);
+TARVO_API void to_bytes(const char16_t* text, std::size_t count, std::uint8_t* out);
 } // namespace units
 
 /// A wide text held as units while a call lasts. Null is an empty text.

@@ -58,6 +58,43 @@ TEST(MessageStore, SetReplacesShorterEqualAndLongerTexts)
     EXPECT_EQ(store.GetCount(), 2u);
 }
 
+TEST(MessageStore, KeysOfBytesAndOfUnitsOfEveryLengthAreToldApart)
+{
+    CMessageStore store;
+    std::map<std::u16string, CString> expected;
+    for (std::size_t length = 1; length < 40; ++length)
+        for (const char16_t last : {u'\x41', u'\xFF', u'\x141', u'\xAC00'}) // the third has the first's byte
+        {
+            const std::u16string key = std::u16string(length, u'!') + last;
+            const CString asked = units::to_string(key);
+            EXPECT_FALSE(store.Find(key).has_value()) << length;
+            EXPECT_TRUE(store.Insert(key, u"first")) << length;
+            EXPECT_FALSE(store.Insert(key, u"second")) << length;
+            EXPECT_EQ(store.Find(units::ask(asked)), u"first") << length;
+            store.Set(key, key);
+            EXPECT_EQ(store.Find(key), key) << length;
+            expected[key] = asked + L"=" + asked + L";";
+        }
+    CString list;
+    for (const auto& [key, line] : expected)
+        list += line;
+    EXPECT_EQ(dump(store), list);
+    EXPECT_EQ(dump(CMessageStore(store)), list);
+}
+
+TEST(MessageStore, AKeyTakesAByteForEachUnitWhereItCan)
+{
+    CMessageStore names, others;
+    for (int i = 0; i < 10000; ++i)
+    {
+        names.Insert(numbered(u"\x00C4 long name for a message ", i), u"");
+        others.Insert(numbered(u"\xAC00 long name for a message ", i), u"");
+    }
+    names.Trim();
+    others.Trim();
+    EXPECT_LT(names.GetMemory() * 10, others.GetMemory() * 7);
+}
+
 TEST(MessageStore, ListsInTheOrdinalOrderOfTheKeys)
 {
     CMessageStore store;

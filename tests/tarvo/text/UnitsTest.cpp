@@ -72,6 +72,33 @@ TEST(Units, EqualTheWideTextThatIsAskedForAndNoOtherOfAnyLength)
     }
 }
 
+TEST(Units, ThatFitAreKeptAsBytesAndEqualTheSameTextsAndNoOthers)
+{
+    for (std::size_t length = 0; length < 70; ++length)
+    {
+        std::u16string text(length, u'\0');
+        for (std::size_t i = 0; i < length; ++i)
+            text[i] = static_cast<char16_t>(0xFF - i);
+        ASSERT_TRUE(units::are_bytes(text)) << length;
+        std::vector<std::uint8_t> bytes(length + 8, 0x23);
+        units::to_bytes(text.data(), length, bytes.data());
+        EXPECT_EQ(std::u16string(bytes.begin(), bytes.end()), text + u"########") << length;
+        std::wstring asked = wide_of(text);
+        EXPECT_TRUE(units::same(bytes.data(), text.data(), length)) << length;
+        EXPECT_TRUE(units::same(bytes.data(), asked.data(), length)) << length;
+        for (std::size_t i = 0; i < length; ++i)
+        {
+            text[i] ^= 0x100; // the byte is the same
+            asked[i] ^= 0x100;
+            EXPECT_FALSE(units::are_bytes(text)) << length << " " << i;
+            EXPECT_FALSE(units::same(bytes.data(), text.data(), length)) << length << " " << i;
+            EXPECT_FALSE(units::same(bytes.data(), asked.data(), length)) << length << " " << i;
+            text[i] ^= 0x100;
+            asked[i] ^= 0x100;
+        }
+    }
+}
+
 TEST(Units, HaveOtherHashesWhenTwoOfThemChangePlaces)
 {
     for (std::size_t length = 2; length < 40; ++length)
