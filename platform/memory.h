@@ -9,11 +9,14 @@ namespace platform::memory
 /// Pieces of this size, which is what most of it should be taken in, are cheap to take again.
 inline constexpr std::size_t kBlock = std::size_t{256} << 10;
 
-/// \p bytes that nothing was written to, aligned for any type. Much larger pieces come in large pages where
-/// the system has them, instead of page by page as they are touched. Throws std::bad_alloc.
+/// \p bytes that nothing was written to, aligned for any type. Such pieces lie in large pages where the
+/// system has them, instead of being mapped page by page as they are touched, and some are kept for the next
+/// ones when they are given back. Throws std::bad_alloc.
 char* take(std::size_t bytes);
 /// Ends the use of what take gave for \p bytes.
 void give_back(char* memory, std::size_t bytes) noexcept;
+/// Bytes in use that the C library's heap does not know of.
+std::size_t taken_outside_heap() noexcept;
 
 struct GiveBack
 {

@@ -1,5 +1,7 @@
 #include "bench/support/allocations.h"
 
+#include "platform/memory.h"
+
 #include <malloc.h>
 
 #include <atomic>
@@ -29,6 +31,7 @@ long allocations() { return count; }
 double allocated_bytes()
 {
     const struct mallinfo2 now = mallinfo2();
-    return static_cast<double>(now.uordblks) + static_cast<double>(now.hblkhd);
+    return static_cast<double>(now.uordblks) + static_cast<double>(now.hblkhd) +
+           static_cast<double>(platform::memory::taken_outside_heap());
 }
 } // namespace bench
