@@ -29,16 +29,18 @@ void CScriptBytes::Provide(std::size_t count)
     if (m_bytes.size() >= count || m_unread == 0)
         return;
     const std::size_t kept = m_bytes.size();
-    std::vector<char> wider;
-    if (m_buffer.size() < count + readAtOnce)
-        wider.resize(count + readAtOnce);
-    std::vector<char>& buffer = wider.empty() ? m_buffer : wider;
-    std::copy(m_bytes.begin(), m_bytes.end(), buffer.begin());
-    if (!wider.empty())
+    platform::memory::Piece wider;
+    if (m_room < count + readAtOnce)
+    {
+        m_room = count + readAtOnce;
+        wider = platform::memory::take_piece(m_room);
+    }
+    std::copy(m_bytes.begin(), m_bytes.end(), wider ? wider.get() : m_buffer.get());
+    if (wider)
         m_buffer.swap(wider);
-    const auto read = static_cast<std::size_t>(std::min<std::uint64_t>(m_buffer.size() - kept, m_unread));
-    m_hasFailed = !m_file->read(m_buffer.data() + kept, read);
-    m_bytes = {m_buffer.data(), kept + (m_hasFailed ? 0 : read)};
+    const auto read = static_cast<std::size_t>(std::min<std::uint64_t>(m_room - kept, m_unread));
+    m_hasFailed = !m_file->read(m_buffer.get() + kept, read);
+    m_bytes = {m_buffer.get(), kept + (m_hasFailed ? 0 : read)};
     m_unread = m_hasFailed ? 0 : m_unread - read;
 }
 

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "platform/file.h"
+#include "platform/memory.h"
 #include "tarvo/text/TextDecode.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
-#include <vector>
 
 /// Gives the bytes of a script in pieces that can be decoded one by one: in the ANSI code page whole lines,
 /// as characters are told apart from each line's beginning.
@@ -34,8 +34,9 @@ private:
 
     std::string_view m_bytes; ///< what is at hand
     platform::file::input* m_file = nullptr;
-    std::vector<char> m_buffer; ///< of a file
-    std::uint64_t m_unread = 0; ///< bytes of the file that have not been read yet
+    platform::memory::Piece m_buffer; ///< of a file
+    std::size_t m_room = 0;           ///< bytes of the buffer
+    std::uint64_t m_unread = 0;       ///< bytes of the file that have not been read yet
     TextEncoding m_encoding = TextEncoding::Ansi;
     bool m_hasFailed = false;
 };
