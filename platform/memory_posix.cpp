@@ -30,6 +30,7 @@ std::size_t round_up(std::size_t bytes, std::size_t size) { return (bytes + size
 /// They go with the process.
 constinit SpareRanges spare(kMostSpare);
 constinit std::atomic<std::size_t> taken = 0; ///< bytes of large pieces
+constinit std::atomic<bool> is_mapped = false;
 
 /// What nobody uses is out of bounds to the address sanitizer.
 void keep_or_unmap(char* memory, std::size_t size) noexcept
@@ -43,7 +44,7 @@ void keep_or_unmap(char* memory, std::size_t size) noexcept
     ::munmap(memory, size);
 }
 
-/// New memory of whole large pages; null when there is none.
+/// New memory as long as whole large pages; null when there is none.
 char* map(std::size_t size)
 {
     // Somewhere in what is asked for begins a large page.
@@ -57,7 +58,9 @@ char* map(std::size_t size)
     if (before != 0)
         ::munmap(all, before);
     ::munmap(first + size, kLargePage - before);
-    ::madvise(first, size, MADV_HUGEPAGE);
+    // A program that needs little does not pay for zeros in all of the first page.
+    if (is_mapped.exchange(true) || size > kLargePage)
+        ::madvise(first, size, MADV_HUGEPAGE);
     return first;
 }
 
@@ -81,6 +84,8 @@ char* take_large(std::size_t bytes)
 
 char* take(std::size_t bytes)
 {
+    if (bytes > PTRDIFF_MAX)
+        throw std::bad_alloc();
     char* const memory = bytes < kGrain ? static_cast<char*>(std::malloc(bytes)) : take_large(bytes);
     if (!memory)
         throw std::bad_alloc();

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <new>
 #include <string_view>
 #include <thread>
 #include <vector>
@@ -55,6 +56,12 @@ TEST(Memory, NothingCanBeGivenBack)
     const Piece piece = take_filled(kBlock, 'x');
     EXPECT_TRUE(piece.memory);
     platform::memory::give_back(piece.memory, piece.size);
+}
+
+TEST(Memory, ThatNobodyHasIsRefused)
+{
+    for (const std::size_t size : {SIZE_MAX, SIZE_MAX - 5, SIZE_MAX / 2, SIZE_MAX / 4})
+        EXPECT_THROW(platform::memory::take(size), std::bad_alloc) << size;
 }
 
 TEST(Memory, ManyThreadsMayTakeAndGiveBack)
