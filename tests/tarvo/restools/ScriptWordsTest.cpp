@@ -156,6 +156,17 @@ TEST(ScriptWords, AreTheSameWhereverTheyStandAndHoweverLongTheyAre)
     }
 }
 
+TEST(ScriptWords, HoldAPairOfQuotesWhereverItStands)
+{
+    for (std::size_t before = 1; before < 20; ++before)
+        for (std::size_t length = 0; length < 80; ++length)
+        {
+            const std::string first(before, 'x'), text(length, 'y');
+            EXPECT_EQ(Standard(first + " \"" + text + "\"\"z\" end"), (Words{first, text + "\\\"z", "end"}))
+                << before << " " << length;
+        }
+}
+
 TEST(ScriptWords, StandAlsoInTheMiddleOfAText)
 {
     const std::u16string text = u"\"LTEXT \"a, b\",ID\",";
