@@ -9,9 +9,9 @@ namespace platform::memory
 /// Pieces of this size, which is what most of it should be taken in, are cheap to take again.
 inline constexpr std::size_t kBlock = std::size_t{256} << 10;
 
-/// \p bytes that nothing was written to, aligned for any type. Such pieces lie in large pages where the
-/// system has them, instead of being mapped page by page as they are touched, and some are kept for the next
-/// ones when they are given back. Throws std::bad_alloc.
+/// \p bytes that nothing was written to, aligned for any type. Pieces of 64 KB and more lie in large pages
+/// where the system has them, instead of being mapped page by page as they are touched. Throws
+/// std::bad_alloc.
 char* take(std::size_t bytes);
 /// Ends the use of what take gave for \p bytes.
 void give_back(char* memory, std::size_t bytes) noexcept;

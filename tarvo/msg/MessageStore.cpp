@@ -17,7 +17,7 @@ void CMessageStore::ForEach(Visit visit) const
         for (const char* at = first; at != last;)
         {
             const Record& record = *reinterpret_cast<const Record*>(at);
-            if (!(record.isReplaced))
+            if (!record.isReplaced)
                 visit(record, ref);
             const std::size_t size = record.GetSize();
             at += size;

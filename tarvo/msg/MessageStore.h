@@ -62,10 +62,13 @@ private:
         std::uint32_t isReplaced : 1; ///< another record has the key now
         std::uint32_t valueLength;
 
-        /// Of the whole record.
+        /// Bytes of the whole record.
         std::size_t GetSize() const;
-        /// Of the key; the units of the value begin behind them.
-        std::size_t GetKeySize() const { return isNarrow ? (keyLength + 1) / 2 * 2 : keyLength * 2; }
+        /// Bytes of the key; the units of the value begin behind them.
+        std::size_t GetKeySize() const
+        {
+            return (isNarrow ? (keyLength + 1) / 2 : std::size_t{keyLength}) * sizeof(char16_t);
+        }
         const std::uint8_t* Bytes() const { return reinterpret_cast<const std::uint8_t*>(this + 1); }
         const char16_t* Units() const { return reinterpret_cast<const char16_t*>(this + 1); }
         units::view Value() const { return {Units() + GetKeySize() / 2, valueLength}; }

@@ -32,8 +32,8 @@ void CScriptBytes::Provide(std::size_t count)
     platform::memory::Piece wider;
     if (m_room < count + readAtOnce)
     {
+        wider = platform::memory::take_piece(count + readAtOnce);
         m_room = count + readAtOnce;
-        wider = platform::memory::take_piece(m_room);
     }
     std::copy(m_bytes.begin(), m_bytes.end(), wider ? wider.get() : m_buffer.get());
     if (wider)
