@@ -20,7 +20,7 @@ std::size_t taken_outside_heap() noexcept;
 
 struct GiveBack
 {
-    std::size_t size; ///< bytes
+    std::size_t size = 0; ///< bytes
     void operator()(char* memory) const { give_back(memory, size); }
 };
 using Piece = std::unique_ptr<char, GiveBack>;

@@ -30,15 +30,13 @@ void CScriptBytes::Provide(std::size_t count)
         return;
     const std::size_t kept = m_bytes.size();
     platform::memory::Piece wider;
-    if (m_room < count + readAtOnce)
-    {
+    if (m_buffer.get_deleter().size < count + readAtOnce)
         wider = platform::memory::take_piece(count + readAtOnce);
-        m_room = count + readAtOnce;
-    }
     std::copy(m_bytes.begin(), m_bytes.end(), wider ? wider.get() : m_buffer.get());
     if (wider)
         m_buffer.swap(wider);
-    const auto read = static_cast<std::size_t>(std::min<std::uint64_t>(m_room - kept, m_unread));
+    const auto read =
+        static_cast<std::size_t>(std::min<std::uint64_t>(m_buffer.get_deleter().size - kept, m_unread));
     m_hasFailed = !m_file->read(m_buffer.get() + kept, read);
     m_bytes = {m_buffer.get(), kept + (m_hasFailed ? 0 : read)};
     m_unread = m_hasFailed ? 0 : m_unread - read;

@@ -35,7 +35,6 @@ private:
     std::string_view m_bytes; ///< what is at hand
     platform::file::input* m_file = nullptr;
     platform::memory::Piece m_buffer; ///< of a file
-    std::size_t m_room = 0;           ///< bytes of the buffer
     std::uint64_t m_unread = 0;       ///< bytes of the file that have not been read yet
     TextEncoding m_encoding = TextEncoding::Ansi;
     bool m_hasFailed = false;
